@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varnello {
+
+/// Appends `line` and CR LF in one write, so that two programs that append at once don't mix their
+/// lines. A file whose last line was left unfinished gets its line end first. False when the file
+/// can't be written; what was on disk stays as it was.
+bool AppendLine(const std::filesystem::path& file, std::string_view line);
+
+/// The lines of a file without their ends, LF or CR LF; the last one needs none. A missing or
+/// unreadable file has no lines.
+std::vector<std::string> ReadLines(const std::filesystem::path& file);
+
+}  // namespace varnello

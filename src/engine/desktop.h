@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "engine/common/calendar.h"
+
+/// What the engine asks of a desktop. The window implements these on its toolkit, the scripted
+/// table and the tests in a few lines each.
+namespace varnello {
+
+/// Persistent texts addressed by section and key. A write is durable at once.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+    /// The stored text, or `fallback` for a key that was never written.
+    virtual std::string Read(std::string_view section, std::string_view key,
+                             std::string_view fallback) const = 0;
+    virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
+};
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual DateTime Now() const = 0;
+    /// Any value that differs from run to run and moment to moment.
+    virtual double Timer() const = 0;
+};
+
+/// The playing surface. The engine's `Table` is the truth about what lies where; the surface is
+/// told only when to show it.
+class TableSurface {
+public:
+    virtual ~TableSurface() = default;
+    /// Shows the table as it is now.
+    virtual void Repaint() = 0;
+    /// The same for one step of a card's flight, held long enough to be seen.
+    virtual void RepaintFlight() = 0;
+    /// Lets the event loop run once.
+    virtual void Yield() = 0;
+};
+
+enum class Sound { Start, CardUp, CardDown, AutoPlay, Undo, Redo, Win };
+
+class SoundPlayer {
+public:
+    virtual ~SoundPlayer() = default;
+    /// Starts the event's wave and returns; a wave that still plays is cut off.
+    virtual void Play(Sound event) = 0;
+};
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    /// An information box with the product name as its title.
+    virtual void Inform(const std::string& text) = 0;
+    /// The modal game won dialog. While it loads it calls `Engine::LoadFinish`.
+    virtual void ShowFinish() = 0;
+};
+
+struct Desktop {
+    SettingsStore& settings;
+    Clock& clock;
+    TableSurface& surface;
+    SoundPlayer& sounds;
+    Dialogs& dialogs;
+    std::filesystem::path dataFolder;  ///< `AppDir`
+};
+
+}  // namespace varnello
