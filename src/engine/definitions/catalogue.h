@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "engine/definitions/game_record.h"
+
+namespace varnello {
+
+/// One game: its name and the values that `SelectGame` stores.
+struct GameRow {
+    std::string_view Name;
+    ExtDef Ext = {};
+    HomeDef Home = {};
+    GoalDef Goal = {};
+    ResDef Res = {};
+    StockDef Stock = {};
+    std::optional<WasteDef> Waste = std::nullopt;
+};
+
+inline constexpr int kTotalGames = 35;
+
+/// All games in alphabetical order; a game's id is its place here, counted from 1.
+extern const std::array<GameRow, kTotalGames> kCatalogue;
+
+/// The row with exactly this name, or nullptr.
+const GameRow* FindGame(std::string_view name);
+
+/// Stores a row in `games`, after the defaults for what the row leaves out.
+void SelectRow(cGames& games, const GameRow& row);
+
+/// Stores the row of the game called `name`; a name of no game leaves the record but for the
+/// reserve, the waste and the foundations' base rank as it was.
+void SelectGame(cGames& games, std::string_view name);
+
+}  // namespace varnello
