@@ -1,0 +1,122 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "engine/board/generator.h"
+#include "engine/board/table.h"
+#include "engine/definitions/game_record.h"
+#include "engine/desktop.h"
+
+namespace varnello {
+
+/// The kind of a card's move.
+enum class MoveKind : std::int32_t {
+    Play = 0,       // a drop, autoplay, the taking off of a run
+    FromStock = 1,  // a stock card dealt in play
+    ToStock = 2,    // a waste card turned back
+    Uncover = 3,    // a move that opened the card below; only `MoveCard` itself says so
+    UndoRedo = 4,
+    Deal = 5
+};
+
+/// One call of `MoveCard`, in the order of its arguments.
+struct CardMove {
+    PicID PicId;
+    Place To;
+    MoveKind tMod;
+    std::int16_t Speed;   ///< steps of the flight; 0 or less: the card jumps
+    std::int16_t mCards;  ///< cards lying above this one that go with it
+    FaceMode DFace;       ///< the face of every moved card at its target
+};
+
+/// What a card's move sets off further up. The game flow implements it, so that the board needs to
+/// know nothing of the log and the rules.
+class MoveFollower {
+public:
+    virtual ~MoveFollower() = default;
+    virtual bool GameRunning() const = 0;
+    /// A move is accepted and about to be made; nothing has changed place yet.
+    virtual void MoveBegins(const CardMove& move) = 0;
+    /// The move belongs into the log. The card still holds its old place.
+    virtual void SaveTrans(const CardMove& move) = 0;
+    virtual void AutoPlay() = 0;
+    /// May show the won dialog, from which a whole new game can start.
+    virtual void CheckWon() = 0;
+};
+
+/// Which card lies where, and the one door through which a card changes its place. Indexes outside
+/// the tables are a fault of the caller.
+class cArray {
+public:
+    cArray(const cGames& games, Table& table, Generator& generator, TableSurface& surface,
+           MoveFollower& follower);
+
+    /// Position of the pile's top card, -1 for an empty pile.
+    std::int16_t GetTop(Cell cell, int pile) const { return TopIndex(cell, pile); }
+    /// The top card; the pile must not be empty.
+    PicID GetTopPicID(Cell cell, int pile) const {
+        return GetPicID(cell, pile, GetTop(cell, pile));
+    }
+    /// Entries above the top are reliable for reserves only.
+    PicID GetPicID(Cell cell, int pile, int pos) const { return CardGrid(cell, pile, pos); }
+
+    void AddtoWaste(PicID id);
+    /// Moves the whole waste back at once, unlogged.
+    void MoveWasteStock();
+    void MoveCard(PicID id, Place to, MoveKind tMod, std::int16_t Speed, std::int16_t mCards,
+                  FaceMode DFace);
+
+    /// The card value at a position of the shuffled deck.
+    std::int16_t GetRandom(int position) const {
+        return dealOrder_[static_cast<std::size_t>(position)];
+    }
+    /// Empties the tables and shuffles `TotalCards` cards for a game number.
+    void Init(double GameNo);
+    void RandomInit(double GameNo);
+    /// Empties the tables: with no game running the board counts as empty.
+    void Clear();
+
+    std::int16_t TotalGoalCards() const;
+    std::int16_t ClosedCards(int pile) const;
+
+    std::int16_t GetCordX(const Place& place) const;
+    std::int16_t GetCordY(const Place& place) const;
+
+    /// Off: cards jump and nothing is repainted or yielded, for a deal that was given up half-way.
+    void SetMotion(bool on) { motion_ = on; }
+
+    /// Changes whenever a game's board comes or goes. Whoever is still on the stack when another
+    /// game may have begun compares it before touching the board again.
+    std::uint64_t Serial() const { return serial_; }
+
+private:
+    void PlaceCard(PicID id, Place to, MoveKind tMod, std::int16_t Speed, FaceMode DFace);
+    void Fly(KesCard& card, double x, double y, int steps);
+
+    static std::size_t PileIndex(Cell cell, int pile) {
+        return static_cast<std::size_t>(static_cast<int>(cell) * kPilesPerCell + pile);
+    }
+    std::int16_t& TopIndex(Cell cell, int pile) { return topIndex_[PileIndex(cell, pile)]; }
+    std::int16_t TopIndex(Cell cell, int pile) const { return topIndex_[PileIndex(cell, pile)]; }
+    PicID& CardGrid(Cell cell, int pile, int pos) {
+        return cardGrid_[PileIndex(cell, pile)][static_cast<std::size_t>(pos)];
+    }
+    PicID CardGrid(Cell cell, int pile, int pos) const {
+        return cardGrid_[PileIndex(cell, pile)][static_cast<std::size_t>(pos)];
+    }
+
+    const cGames& games_;
+    Table& table_;
+    Generator& generator_;
+    TableSurface& surface_;
+    MoveFollower& follower_;
+    // One position more than there are cards: a pile can hold every card of the game.
+    std::array<std::array<PicID, kCardObjects + 1>, kCells * kPilesPerCell> cardGrid_;
+    std::array<std::int16_t, kCells * kPilesPerCell> topIndex_;
+    std::array<std::int16_t, kCardObjects + 1> dealOrder_{};
+    bool motion_ = true;
+    std::uint64_t serial_ = 0;
+};
+
+}  // namespace varnello

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "engine/board/card.h"
+
+namespace varnello {
+
+inline constexpr int kTableWidth = 15480;   // twips; the table doesn't scale
+inline constexpr int kTableHeight = 11205;  // twips
+
+/// The card and slot objects. They are made once and reused by every game.
+class Table {
+public:
+    KesCard& Card(PicID id) { return PicCards[static_cast<std::size_t>(id)]; }
+    const KesCard& Card(PicID id) const { return PicCards[static_cast<std::size_t>(id)]; }
+
+    void BringToFront(PicID id) { Card(id).Height = ++front_; }
+
+    /// The visible cards from the backmost to the frontmost.
+    std::vector<PicID> VisibleCards() const;
+    /// The frontmost visible card that covers this point in twips, or `kNoCard`.
+    PicID CardAt(double x, double y) const;
+
+    /// Hides everything and sets the values and places of all cards to zero.
+    void Clear();
+
+    std::array<KesCard, kCardObjects> PicCards;
+    std::array<KesEmpty, 18> PicHome;
+    std::array<KesEmpty, 10> PicRes;
+    std::array<KesEmpty, 8> PicRight;
+    std::array<KesEmpty, 1> PicWaste;
+    std::array<KesEmpty, 1> PicStock;
+
+private:
+    std::uint64_t front_ = 0;
+};
+
+/// Calls `visit(arrayName, index, slot)` for every slot, in the order home, res, right, waste,
+/// stock.
+template <typename SomeTable, typename Visit>
+void ForEachSlot(SomeTable& table, Visit&& visit) {
+    const auto each = [&](const char* name, auto& slots) {
+        for (std::size_t i = 0; i < slots.size(); ++i) visit(name, static_cast<int>(i), slots[i]);
+    };
+    each("home", table.PicHome);
+    each("res", table.PicRes);
+    each("right", table.PicRight);
+    each("waste", table.PicWaste);
+    each("stock", table.PicStock);
+}
+
+}  // namespace varnello
