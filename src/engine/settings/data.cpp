@@ -1,0 +1,115 @@
+#include "engine/settings/data.h"
+
+#include <algorithm>
+
+#include "engine/common/number_text.h"
+#include "engine/definitions/catalogue.h"
+
+namespace varnello {
+namespace {
+
+constexpr std::string_view kDataSection = "Data";
+
+constexpr std::array kNumberKeys{
+    keys::Autoplay,     keys::ShowToolbar, keys::CardSpeed,  keys::UndoSpeed,
+    keys::UndoallSpeed, keys::ReplaySpeed, keys::SoundStart, keys::SoundCardDown,
+    keys::SoundCardUp,  keys::SoundUndo,   keys::SoundRedo,  keys::SoundAutoPlay,
+    keys::SoundWin,     keys::ShowTime,    keys::ShowScore,  keys::ShowMoves,
+    keys::BGIndex,      keys::RangeIndex,  keys::DeckIndex,  keys::Fade};
+
+const NumberKey& SwitchOf(Sound event) {
+    switch (event) {
+        case Sound::Start: return keys::SoundStart;
+        case Sound::CardUp: return keys::SoundCardUp;
+        case Sound::CardDown: return keys::SoundCardDown;
+        case Sound::AutoPlay: return keys::SoundAutoPlay;
+        case Sound::Undo: return keys::SoundUndo;
+        case Sound::Redo: return keys::SoundRedo;
+        case Sound::Win: break;
+    }
+    return keys::SoundWin;
+}
+
+bool IsWholeNumber(std::string_view text) {
+    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+}  // namespace
+
+std::span<const NumberKey> NumberKeys() { return kNumberKeys; }
+
+cData::cData(SettingsStore& store, SoundPlayer& sounds, std::filesystem::path appDir)
+    : store_(store), sounds_(sounds), appDir_(std::move(appDir)) {}
+
+std::int16_t cData::Get(const NumberKey& key) const {
+    const auto value = ParseWhole<std::int16_t>(store_.Read(kDataSection, key.Key, {}));
+    return value.value_or(key.Default);
+}
+
+void cData::Set(const NumberKey& key, std::int16_t value) {
+    store_.Write(kDataSection, key.Key, std::to_string(value));
+}
+
+bool cData::SetText(std::string_view key, std::string_view value) {
+    const bool isNumberKey = key == kCustomColorKey ||
+                             std::any_of(kNumberKeys.begin(), kNumberKeys.end(),
+                                         [&](const NumberKey& known) { return known.Key == key; });
+    const bool fits =
+        key == kLastGNameKey ? FindGame(value) != nullptr : isNumberKey && IsWholeNumber(value);
+    if (fits) store_.Write(kDataSection, key, value);
+    return fits;
+}
+
+std::string cData::LastGName() const {
+    return store_.Read(kDataSection, kLastGNameKey, GetGName(1));
+}
+
+void cData::LastGName(std::string_view name) { store_.Write(kDataSection, kLastGNameKey, name); }
+
+std::int32_t cData::CustomColor() const {
+    const auto value = ParseWhole<std::int32_t>(store_.Read(kDataSection, kCustomColorKey, {}));
+    return value.value_or(kDefaultCustomColor);
+}
+
+void cData::CustomColor(std::int32_t color) {
+    store_.Write(kDataSection, kCustomColorKey, std::to_string(color));
+}
+
+std::int16_t cData::TotalGames() const { return kTotalGames; }
+
+std::string cData::GetGName(std::int16_t id) const {
+    return std::string(kCatalogue.at(static_cast<std::size_t>(id - 1)).Name);
+}
+
+std::int16_t cData::GetGameID(std::string_view name) const {
+    const GameRow* row = FindGame(name);
+    return row ? static_cast<std::int16_t>(row - kCatalogue.data() + 1) : std::int16_t{0};
+}
+
+void cData::CurGName(std::string_view name) {
+    curGName_ = name;
+    LastGName(name);
+}
+
+void cData::PlaySound(Sound event) {
+    if (Get(SwitchOf(event)) == -1) sounds_.Play(event);
+}
+
+std::string cData::Slot(std::string_view section, std::int16_t index) const {
+    return store_.Read(section, std::to_string(index), {});
+}
+
+void cData::Slot(std::string_view section, std::int16_t index, std::string_view text) {
+    store_.Write(section, std::to_string(index), text);
+}
+
+std::int16_t cData::CountSlots(std::string_view section, std::int16_t slots) const {
+    std::int16_t count = 0;
+    for (std::int16_t i = 1; i <= slots; ++i) {
+        if (!Slot(section, i).empty()) ++count;
+    }
+    return count;
+}
+
+}  // namespace varnello

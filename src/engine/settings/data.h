@@ -1,0 +1,132 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "engine/desktop.h"
+#include "engine/settings/game_number.h"
+
+namespace varnello {
+
+inline constexpr std::string_view kProductName = "Varnello";
+inline constexpr std::string_view kVersion = "3.0";
+inline constexpr std::int16_t kMaxPlayers = 20;
+inline constexpr std::int16_t kMaxRecent = 5;
+
+/// A whole-number key of the settings section "Data" and its default.
+struct NumberKey {
+    std::string_view Key;
+    std::int16_t Default;
+};
+
+namespace keys {
+inline constexpr NumberKey Autoplay{"Autoplay", 1};
+inline constexpr NumberKey ShowToolbar{"ShowToolbar", 1};
+inline constexpr NumberKey CardSpeed{"CardSpeed", 5};
+inline constexpr NumberKey UndoSpeed{"UndoSpeed", 5};
+inline constexpr NumberKey UndoallSpeed{"UndoallSpeed", 2};
+inline constexpr NumberKey ReplaySpeed{"ReplaySpeed", 7};
+inline constexpr NumberKey SoundStart{"SoundStart", -1};
+inline constexpr NumberKey SoundCardDown{"SoundCardDown", 0};
+inline constexpr NumberKey SoundCardUp{"SoundCardUp", 0};
+inline constexpr NumberKey SoundUndo{"SoundUndo", -1};
+inline constexpr NumberKey SoundRedo{"SoundRedo", -1};
+inline constexpr NumberKey SoundAutoPlay{"SoundAutoPlay", -1};
+inline constexpr NumberKey SoundWin{"SoundWin", -1};
+inline constexpr NumberKey ShowTime{"ShowTime", 1};
+inline constexpr NumberKey ShowScore{"ShowScore", 1};
+inline constexpr NumberKey ShowMoves{"ShowMoves", 1};
+inline constexpr NumberKey BGIndex{"BGIndex", 1007};
+inline constexpr NumberKey RangeIndex{"RangeIndex", 15};
+inline constexpr NumberKey DeckIndex{"DeckIndex", 531};
+inline constexpr NumberKey Fade{"Fade", 1};
+}  // namespace keys
+
+/// All of them, in the order of the settings.
+std::span<const NumberKey> NumberKeys();
+
+inline constexpr std::string_view kLastGNameKey = "LastGName";
+inline constexpr std::string_view kCustomColorKey = "CustomColor";
+inline constexpr std::int32_t kDefaultCustomColor = 128;  // red + 256 x green + 65536 x blue
+
+/// Settings, players, recent games, and the record of the current game. Settings aren't cached:
+/// every read goes to the store and every write is durable at once.
+class cData {
+public:
+    cData(SettingsStore& store, SoundPlayer& sounds, std::filesystem::path appDir);
+
+    const std::filesystem::path& AppDir() const { return appDir_; }
+
+    // Settings. A stored text that isn't a 16-bit number counts as the default.
+    std::int16_t Get(const NumberKey& key) const;
+    void Set(const NumberKey& key, std::int16_t value);
+    /// Writes a key of section "Data" as text. False, with nothing written, for an unknown key, a
+    /// value that isn't a whole number, or a last game that is no game.
+    bool SetText(std::string_view key, std::string_view value);
+    /// The game last started; the first of the catalogue when none was.
+    std::string LastGName() const;
+    void LastGName(std::string_view name);
+    /// 32-bit colour: red + 256 x green + 65536 x blue.
+    std::int32_t CustomColor() const;
+    void CustomColor(std::int32_t color);
+
+    // Game names. Ids count from 1; 0 stands for no game.
+    std::int16_t TotalGames() const;
+    std::string GetGName(std::int16_t id) const;
+    std::int16_t GetGameID(std::string_view name) const;
+
+    // Players. Slots 1 to 20 are kept packed.
+    std::int16_t TotalPlayers() const;
+    std::string GetPlayer(std::int16_t slot) const;
+    void SetPlayer(std::int16_t slot, std::string_view name, bool makeCurrent);
+    std::string CurPlayer() const;
+    void CurPlayer(std::string_view name);
+    /// The slot that holds exactly this name, or 0.
+    std::int16_t FindPlayer(std::string_view name) const;
+    /// Puts the name into the first free slot; false when all 20 are taken.
+    bool AddPlayer(std::string_view name);
+
+    // Recent games, 1 the newest.
+    std::string GetRecent(std::int16_t index) const;
+    void SetRecent(std::string_view name);
+    std::int16_t RecentCount() const;
+    void ClearRecent();
+
+    /// Plays the event's sound if its switch is on.
+    void PlaySound(Sound event);
+
+    // The game on the table. These stay readable after it has ended.
+    DateTime SesStartTime;
+    DateTime GameStartTime;
+    bool GameRunning = false;
+    const std::string& CurGName() const { return curGName_; }
+    /// Also makes it the game last started.
+    void CurGName(std::string_view name);
+    GameNumber CurGNo;
+    std::int32_t CurTime = 0;  ///< seconds, as of the last counter tick
+    std::int16_t CurMoves = 0;
+    std::int16_t CurScore = 0;
+
+private:
+    std::string Slot(std::string_view section, std::int16_t index) const;
+    void Slot(std::string_view section, std::int16_t index, std::string_view text);
+    std::int16_t CountSlots(std::string_view section, std::int16_t slots) const;
+
+    SettingsStore& store_;
+    SoundPlayer& sounds_;
+    std::filesystem::path appDir_;
+    std::string curGName_;
+};
+
+/// A name that a player may have: not blank, and fit to be a file's name everywhere.
+bool IsPlayerName(std::string_view name);
+
+/// `AppDir` + name + ".sre".
+std::filesystem::path ScorePath(const cData& data, std::string_view player);
+
+}  // namespace varnello

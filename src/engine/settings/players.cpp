@@ -1,0 +1,53 @@
+#include <algorithm>
+
+#include "engine/common/number_text.h"
+#include "engine/settings/data.h"
+
+namespace varnello {
+namespace {
+
+constexpr std::string_view kUsersSection = "Users";
+constexpr std::int16_t kCurrentSlot = 100;
+
+}  // namespace
+
+std::int16_t cData::TotalPlayers() const { return CountSlots(kUsersSection, kMaxPlayers); }
+
+std::string cData::GetPlayer(std::int16_t slot) const { return Slot(kUsersSection, slot); }
+
+void cData::SetPlayer(std::int16_t slot, std::string_view name, bool makeCurrent) {
+    Slot(kUsersSection, slot, name);
+    if (makeCurrent) CurPlayer(name);
+}
+
+std::string cData::CurPlayer() const { return Slot(kUsersSection, kCurrentSlot); }
+
+void cData::CurPlayer(std::string_view name) { Slot(kUsersSection, kCurrentSlot, name); }
+
+std::int16_t cData::FindPlayer(std::string_view name) const {
+    for (std::int16_t slot = 1; slot <= kMaxPlayers; ++slot) {
+        if (GetPlayer(slot) == name) return slot;
+    }
+    return 0;
+}
+
+bool cData::AddPlayer(std::string_view name) {
+    const std::int16_t slot = FindPlayer("");
+    if (slot == 0) return false;
+    SetPlayer(slot, name, false);
+    return true;
+}
+
+bool IsPlayerName(std::string_view name) {
+    const auto unfit = [](char c) {
+        return c == '/' || c == '\\' || (static_cast<unsigned char>(c) < 0x20) || c == 0x7F;
+    };
+    return !Trim(name).empty() && std::none_of(name.begin(), name.end(), unfit);
+}
+
+std::filesystem::path ScorePath(const cData& data, std::string_view player) {
+    const std::u8string name(player.begin(), player.end());
+    return data.AppDir() / std::filesystem::path(name + u8".sre");
+}
+
+}  // namespace varnello
