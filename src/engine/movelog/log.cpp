@@ -1,0 +1,46 @@
+#include "engine/movelog/log.h"
+
+#include "engine/common/rounding.h"
+
+namespace varnello {
+namespace {
+
+constexpr std::size_t kBlock = 100;  // the log grows in blocks, so that a move seldom allocates
+
+}  // namespace
+
+cTrans::cTrans(cArray& array, Table& table, cData& data)
+    : array_(array), table_(table), data_(data), records_(kBlock + 1) {}
+
+void cTrans::SaveTrans(const CardMove& move) {
+    transTop_ = ++transID_;
+    if (transID_ >= records_.size()) records_.resize(records_.size() + kBlock);
+    At(transID_) = {.PicId = move.PicId,
+                    .From = table_.Card(move.PicId).Loc,
+                    .To = move.To,
+                    .mCards = move.mCards,
+                    .MoveKind = move.tMod,
+                    .InGroup = multiFlag_};
+}
+
+void cTrans::EndMulti() {
+    At(transID_).InGroup = false;
+    multiFlag_ = false;
+}
+
+std::int16_t cTrans::GetTransID() const { return Saturate16(static_cast<std::int64_t>(transID_)); }
+
+std::int16_t cTrans::TransTop() const { return Saturate16(static_cast<std::int64_t>(transTop_)); }
+
+std::string_view ConvertCell(Cell cell) {
+    switch (cell) {
+        case Cell::Home: return "Tableau";
+        case Cell::Stock: return "Stock";
+        case Cell::Waste: return "Waste";
+        case Cell::Goal: return "Foundation";
+        case Cell::Res: return "Reserve";
+    }
+    return {};
+}
+
+}  // namespace varnello
