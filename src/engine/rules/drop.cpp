@@ -1,0 +1,89 @@
+#include "engine/common/rounding.h"
+#include "engine/rules/gestures.h"
+#include "engine/rules/order.h"
+
+// Where a dropped card may lie. Ties are decided by the order of the search alone: the narrow pass
+// before the wide one, then tableau piles, reserves, foundations, each from 0 up.
+namespace varnello {
+
+bool Gestures::HitCard(PicID id, const Place& place, bool wide) const {
+    const KesCard& card = field_.table.Card(id);
+    const double left = field_.array.GetCordX(place);
+    const double top = field_.array.GetCordY(place);
+    const double right = left + kCardWidth;
+    const double bottom = top + kCardHeight;
+    if (wide) {
+        return card.Top + kCardHeight > top && card.Top < bottom && card.Left + kCardWidth > left &&
+               card.Left < right;
+    }
+    const double centreX = RoundHalfEven(card.Left + kCardWidth / 2.0);
+    const double centreY = card.Top + kCardHeight / 2.0;
+    return centreX > left && centreX < right && centreY > top && centreY < bottom;
+}
+
+bool Gestures::DropOnTableau(PicID id, bool wide) {
+    const cGames& games = field_.games;
+    const KesCard& card = field_.table.Card(id);
+    for (std::int16_t pile = 0; pile < games.Piles(Cell::Home); ++pile) {
+        const std::int16_t top = field_.array.GetTop(Cell::Home, pile);
+        if (!HitCard(id, {Cell::Home, pile, top}, wide)) continue;
+        bool accepted = false;
+        if (top == -1) {
+            accepted = games.EmptyNum() == kAnyCard || games.EmptyNum() == card.Num;
+        } else if (card.Loc.Cell != Cell::Home || card.Loc.Pile != pile) {
+            accepted = FitsOrder(field_.table.Card(field_.array.GetTopPicID(Cell::Home, pile)),
+                                 card, games.Order(Cell::Home, 0), games.AK(Cell::Home));
+        }
+        if (!accepted) continue;
+        field_.array.MoveCard(id, {Cell::Home, pile, Saturate16(top + 1)}, MoveKind::Play, 3,
+                              dragCount_, FaceMode::Open);
+        return true;
+    }
+    return false;
+}
+
+bool Gestures::DropOnReserve(PicID id, bool wide) {
+    if (dragCount_ != 0) return false;
+    for (std::int16_t pile = 0; pile < field_.games.Piles(Cell::Res); ++pile) {
+        const Place place{Cell::Res, pile, 0};
+        if (field_.array.GetPicID(Cell::Res, pile, 0) != kNoCard || !HitCard(id, place, wide)) {
+            continue;
+        }
+        field_.array.MoveCard(id, place, MoveKind::Play, 3, 0, FaceMode::Open);
+        return true;
+    }
+    return false;
+}
+
+bool Gestures::DropOnFoundation(PicID id, bool wide) {
+    const cGames& games = field_.games;
+    if (games.Tag() == Tag::Spider || dragCount_ != 0) return false;
+    const KesCard& card = field_.table.Card(id);
+    for (std::int16_t pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
+        if (!HitCard(id, {Cell::Goal, pile, 0}, wide)) continue;
+        const std::int16_t top = field_.array.GetTop(Cell::Goal, pile);
+        bool accepted = false;
+        if (top == -1) {
+            accepted = card.Num == games.GoalBase();
+        } else if (top != kKing) {  // thirteen cards make a foundation full
+            accepted = FitsOrder(field_.table.Card(field_.array.GetTopPicID(Cell::Goal, pile)),
+                                 card, games.Order(Cell::Goal, pile), games.AK(Cell::Goal));
+        }
+        if (!accepted) continue;
+        field_.array.MoveCard(id, {Cell::Goal, pile, Saturate16(top + 1)}, MoveKind::Play, 3, 0,
+                              FaceMode::Open);
+        return true;
+    }
+    return false;
+}
+
+void Gestures::CardDrop(PicID id) {
+    for (const bool wide : {false, true}) {
+        if (DropOnTableau(id, wide) || DropOnReserve(id, wide) || DropOnFoundation(id, wide)) {
+            return;
+        }
+    }
+    CardBack(id);
+}
+
+}  // namespace varnello

@@ -1,0 +1,119 @@
+#include "engine/rules/gestures.h"
+
+#include "engine/common/rounding.h"
+#include "engine/rules/stacks.h"
+#include "engine/rules/stock.h"
+
+namespace varnello {
+namespace {
+
+// How carried cards fan out.
+constexpr int kFanDown = 250;
+constexpr int kFanRight = 180;
+
+}  // namespace
+
+void Gestures::Reset() {
+    dragging_ = false;
+    dragCount_ = 0;
+}
+
+void Gestures::MouseDown(PicID id, double x, double y) {
+    if (!field_.data.GameRunning) return;
+    Reset();
+    downX_ = RoundTo16(x);
+    downY_ = RoundTo16(y);
+    startLeft_ = RoundTo16(field_.table.Card(id).Left);
+    startTop_ = RoundTo16(field_.table.Card(id).Top);
+    CardDown(id);
+    field_.data.PlaySound(Sound::CardDown);
+}
+
+void Gestures::MouseMove(PicID id, double x, double y) {
+    if (field_.data.GameRunning && dragging_) CardDrag(id, x, y);
+}
+
+void Gestures::MouseUp(PicID id) {
+    if (!field_.data.GameRunning || !dragging_) return;
+    dragging_ = false;
+    CardDrop(id);
+    field_.data.PlaySound(Sound::CardUp);
+}
+
+void Gestures::StockClick() {
+    if (field_.data.GameRunning && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
+}
+
+bool Gestures::IsTopCard(PicID id) const {
+    const Place& at = field_.table.Card(id).Loc;
+    return at.Pos == field_.array.GetTop(at.Cell, at.Pile);
+}
+
+void Gestures::CardDown(PicID id) {
+    switch (field_.table.Card(id).Loc.Cell) {
+        case Cell::Home:
+            if (IsTopCard(id)) {
+                dragging_ = true;
+            } else {
+                PickUpStack(id);
+            }
+            break;
+        case Cell::Stock:
+            if (IsTopCard(id)) PressStockCard(id);
+            break;
+        case Cell::Waste:
+        case Cell::Goal: dragging_ = IsTopCard(id); break;
+        case Cell::Res: dragging_ = true; break;
+    }
+}
+
+void Gestures::PickUpStack(PicID id) {
+    const KesCard& card = field_.table.Card(id);
+    const int top = field_.array.GetTop(Cell::Home, card.Loc.Pile);
+    dragCount_ = Saturate16(top - card.Loc.Pos);
+    if (card.FaceMode == FaceMode::Closed || !field_.games.MultiMove()) return;
+    if (!IsRun(field_, id, dragCount_)) return;
+    if (HasStackLimit(field_.games.Tag()) && dragCount_ > MaxExtraCards(field_)) return;
+    dragging_ = true;
+    for (int i = 1; i <= dragCount_; ++i) {
+        field_.table.BringToFront(
+            field_.array.GetPicID(Cell::Home, card.Loc.Pile, card.Loc.Pos + i));
+    }
+}
+
+void Gestures::PressStockCard(PicID id) {
+    if (field_.games.StockType() == StockType::Open) {
+        dragging_ = true;
+    } else if (field_.games.StockMove() == StockMove::Row) {
+        DealRow(field_);
+    } else {
+        field_.array.AddtoWaste(id);
+    }
+}
+
+void Gestures::MoveCarried(PicID id, int left, int top, bool bringToFront) {
+    const Place& at = field_.table.Card(id).Loc;
+    const bool right = field_.games.FansRight();
+    for (int i = 1; i <= dragCount_; ++i) {
+        const PicID carried = field_.array.GetPicID(Cell::Home, at.Pile, at.Pos + i);
+        field_.table.Card(carried).MoveTo(Saturate16(right ? left + kFanRight * i : left),
+                                          Saturate16(right ? top : top + kFanDown * i));
+        if (bringToFront) field_.table.BringToFront(carried);
+    }
+}
+
+void Gestures::CardDrag(PicID id, double x, double y) {
+    KesCard& card = field_.table.Card(id);
+    const std::int16_t left = RoundTo16(card.Left + x - downX_);
+    const std::int16_t top = RoundTo16(card.Top + y - downY_);
+    card.MoveTo(left, top);
+    field_.table.BringToFront(id);
+    MoveCarried(id, left, top, true);
+}
+
+void Gestures::CardBack(PicID id) {
+    field_.table.Card(id).MoveTo(startLeft_, startTop_);
+    MoveCarried(id, startLeft_, startTop_, false);
+}
+
+}  // namespace varnello

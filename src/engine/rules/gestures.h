@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+
+#include "engine/rules/playfield.h"
+
+namespace varnello {
+
+/// Play by hand: press on a card, drag it, let go. Any button, no threshold. All positions are
+/// twips, those of the mouse relative to the card, which moves along with it.
+class Gestures {
+public:
+    explicit Gestures(const Playfield& field) : field_(field) {}
+
+    void MouseDown(PicID id, double x, double y);
+    void MouseMove(PicID id, double x, double y);
+    void MouseUp(PicID id);
+    /// A click on the stock's slot.
+    void StockClick();
+
+    bool Dragging() const { return dragging_; }
+    /// A drag ends with its game.
+    void Reset();
+
+    // The grip point inside the card at the press.
+    std::int16_t DownX() const { return downX_; }
+    std::int16_t DownY() const { return downY_; }
+
+private:
+    void CardDown(PicID id);
+    void CardDrag(PicID id, double x, double y);
+    void CardDrop(PicID id);
+    void CardBack(PicID id);
+
+    void PickUpStack(PicID id);
+    void PressStockCard(PicID id);
+    bool IsTopCard(PicID id) const;
+    void MoveCarried(PicID id, int left, int top, bool bringToFront);
+    bool HitCard(PicID id, const Place& place, bool wide) const;
+    bool DropOnTableau(PicID id, bool wide);
+    bool DropOnReserve(PicID id, bool wide);
+    bool DropOnFoundation(PicID id, bool wide);
+
+    Playfield field_;
+    std::int16_t downX_ = 0;
+    std::int16_t downY_ = 0;
+    std::int16_t startLeft_ = 0;
+    std::int16_t startTop_ = 0;
+    std::int16_t dragCount_ = 0;  ///< cards carried above the one taken
+    bool dragging_ = false;
+};
+
+}  // namespace varnello

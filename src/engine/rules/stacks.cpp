@@ -1,0 +1,40 @@
+#include "engine/rules/stacks.h"
+
+#include "engine/common/rounding.h"
+#include "engine/rules/order.h"
+
+namespace varnello {
+
+bool IsRun(const Playfield& field, PicID id, std::int16_t n) {
+    const Place bottom = field.table.Card(id).Loc;
+    const auto card = [&](int pos) -> const KesCard& {
+        return field.table.Card(field.array.GetPicID(Cell::Home, bottom.Pile, pos));
+    };
+    for (int pos = bottom.Pos; pos < bottom.Pos + n; ++pos) {
+        if (!FitsOrder(card(pos), card(pos + 1), field.games.MultiOrder(),
+                       field.games.AK(Cell::Home))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::int16_t EmptyPiles(const Playfield& field, Cell cell) {
+    std::int16_t empty = 0;
+    for (int pile = 0; pile < field.games.Piles(cell); ++pile) {
+        if (field.array.GetTop(cell, pile) == -1) ++empty;
+    }
+    return empty;
+}
+
+std::int16_t MaxExtraCards(const Playfield& field) {
+    const int emptyPiles = EmptyPiles(field, Cell::Home);
+    const int freeCells = EmptyPiles(field, Cell::Res);
+    return Saturate16((freeCells + 1) * emptyPiles + freeCells);
+}
+
+bool HasStackLimit(Tag tag) {
+    return tag == Tag::Freecell || tag == Tag::FreecellAK || tag == Tag::Penguin;
+}
+
+}  // namespace varnello
