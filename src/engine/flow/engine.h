@@ -1,0 +1,128 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "engine/board/board.h"
+#include "engine/desktop.h"
+#include "engine/flow/counters.h"
+#include "engine/flow/menus.h"
+#include "engine/movelog/log.h"
+#include "engine/rules/gestures.h"
+#include "engine/scores/score_store.h"
+
+namespace varnello {
+
+/// The figures that the won dialog shows.
+struct FinishFigures {
+    std::string Game;
+    std::array<std::string, 5> Lines;  ///< game number, player, time, moves, score
+    std::int16_t Score = 0;            ///< for the chart: 0 when negative
+    std::int16_t Moves = 0;
+    std::int32_t Time = 0;  ///< seconds
+};
+
+/// The whole program without a window: the objects that live as long as the process, the life of a
+/// game, and the commands that menus, toolbar and scripts give.
+class Engine : private MoveFollower {
+public:
+    explicit Engine(const Desktop& desktop);
+    ~Engine() override = default;
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    /// Makes the data folder if it is missing, and on a first run the player "Player1".
+    void InitMain();
+
+    // The life of a game.
+    /// Begins a game; a running one ends as not won first. During a deal the deal is given up and
+    /// the new game follows it at once.
+    void StartGame(const std::string& name, const GameNumber& number);
+    /// Books the running game, 1 for won and 0 for not won, and empties the table.
+    void EndGame(std::int16_t won);
+    /// What the won dialog does when it loads: its figures, the sound, and the game's end as won.
+    FinishFigures LoadFinish();
+    GameNumber RandomGNo();
+    bool Dealing() const { return dealing_; }
+    /// Gives a deal in progress up; it leaves no record. Nothing without one.
+    void AbandonDeal();
+
+    // Commands. Each is ignored when its menu item would be disabled now.
+    void NewGame() { StartGame(data.LastGName(), RandomGNo()); }
+    void RecentGame(std::int16_t index);
+    void RestartGame();
+    void CloseGame();
+    void Undo();
+    void Redo();
+    void UndoAll();
+    void RedoAll();
+    void ToggleAutoplay();
+    void ToggleToolbar();
+    void ReplayForward();
+    void ReplayBack();
+    void ReplayAll();
+    void StopReplay();
+
+    // Timer ticks.
+    /// `tmrForward`: one step of a forward replay. Nothing without a running game.
+    void ForwardTick();
+    /// `tmrBackward`: one step of a backward replay.
+    void BackwardTick();
+    /// `tmrTime`: refreshes the stored counters; the result is what the menu bar shows.
+    CounterCaptions TimeTick();
+    bool ForwardOn() const { return forwardOn_; }
+    bool BackwardOn() const { return backwardOn_; }
+
+    // What the shell shows.
+    MenuMarks UpdateMenus() const;
+    std::array<std::string, kMaxRecent> UpdateRecent() const;
+    std::string Caption() const;
+
+    std::int16_t CalcScore() const;
+    std::int32_t ElapsedTime() const;
+
+    cData data;
+    cGames games;
+    Table table;
+    cScore score;
+    Gestures& gestures() { return gestures_; }
+    const cArray& array() const { return array_; }
+    const cTrans& trans() const { return *trans_; }
+    /// Called before each card's move, for those who follow along.
+    std::function<void(const CardMove&)> onMove;
+    /// Stands for the catalogue: fills `games` for a name. Tests put definitions of their own here.
+    std::function<void(cGames&, const std::string&)> selectGame;
+
+private:
+    bool GameRunning() const override { return data.GameRunning; }
+    void MoveBegins(const CardMove& move) override;
+    void SaveTrans(const CardMove& move) override { trans_->SaveTrans(move); }
+    void AutoPlay() override;
+    void CheckWon() override;
+
+    struct GameRequest {
+        std::string name;
+        GameNumber number;
+    };
+
+    void Begin(const GameRequest& request);
+    void EndReplay();
+
+    Desktop desktop_;
+    Generator generator_;
+    cArray array_;
+    std::shared_ptr<cTrans> trans_;
+    Playfield field_;
+    Gestures gestures_;
+    bool dealing_ = false;
+    bool dealAbandoned_ = false;
+    std::optional<GameRequest> nextGame_;  ///< asked for during a deal
+    bool forwardOn_ = false;
+    bool backwardOn_ = false;
+    bool stopEnabled_ = false;
+};
+
+}  // namespace varnello
