@@ -1,0 +1,50 @@
+#pragma once
+
+#include <filesystem>
+#include <ostream>
+#include <string_view>
+
+#include "engine/flow/engine.h"
+#include "script/stand_ins.h"
+#include "script/words.h"
+
+namespace varnello::script {
+
+/// The engine without a window: carries out one command a line and writes what happened.
+class ScriptedTable {
+public:
+    /// Plays with `folder` as the data folder and writes to `out`.
+    ScriptedTable(const std::filesystem::path& folder, std::ostream& out);
+
+    /// Carries out one line. A bad one prints a line that begins with "error: " and changes
+    /// nothing.
+    void Run(std::string_view line);
+
+private:
+    void Play(std::string_view command, Words& words);
+    bool PlayClock(std::string_view command, Words& words);
+    bool PlayLife(std::string_view command, Words& words);
+    bool PlayGestures(std::string_view command, Words& words);
+    bool PlayCommands(std::string_view command, Words& words);
+    bool Look(std::string_view command, Words& words);
+
+    void SetClock(Words& words);
+    void SetPlayer(const std::string& name);
+    void Press(PicID id);
+    void Drag(std::int16_t left, std::int16_t top);
+    void Release();
+    void Slot();
+    void Replay(std::string_view what);
+
+    std::ostream& out_;
+    MemoryStore store_;
+    ScriptClock clock_;
+    NoSurface surface_;
+    PrintedSounds sounds_;
+    PrintedDialogs dialogs_;
+    bool trace_ = false;
+    PicID pressed_ = kNoCard;
+    Engine engine_;
+};
+
+}  // namespace varnello::script
