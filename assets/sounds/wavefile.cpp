@@ -1,0 +1,53 @@
+#include "wavefile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <fstream>
+#include <string>
+
+namespace {
+
+constexpr double peakDecibels = -9.0;
+
+void Append(std::string& bytes, std::uint32_t value, int count) {
+    for (int i = 0; i < count; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFFu));
+}
+
+std::string Header(std::uint32_t dataBytes) {
+    const auto rate = static_cast<std::uint32_t>(sampleRate);
+    std::string bytes;
+    bytes.append("RIFF");
+    Append(bytes, 36 + dataBytes, 4);
+    bytes.append("WAVEfmt ");
+    Append(bytes, 16, 4);  // length of the format block
+    Append(bytes, 1, 2);   // plain samples
+    Append(bytes, 1, 2);   // one channel
+    Append(bytes, rate, 4);
+    Append(bytes, rate * 2, 4);  // bytes a second
+    Append(bytes, 2, 2);         // bytes a sample
+    Append(bytes, 16, 2);        // bits a sample
+    bytes.append("data");
+    Append(bytes, dataBytes, 4);
+    return bytes;
+}
+
+}  // namespace
+
+bool WriteWave(const std::filesystem::path& path, const Samples& samples) {
+    double peak = 0.0;
+    for (double sample : samples) peak = std::max(peak, std::abs(sample));
+    const double target = 32767.0 * std::pow(10.0, peakDecibels / 20.0);
+    const double scale = peak > 0.0 ? target / peak : 0.0;
+
+    std::string bytes = Header(static_cast<std::uint32_t>(samples.size() * 2));
+    for (double sample : samples) {
+        const auto value = static_cast<std::int32_t>(std::lround(sample * scale));
+        Append(bytes, static_cast<std::uint32_t>(value), 2);
+    }
+
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    return !file.fail();
+}
