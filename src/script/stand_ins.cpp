@@ -21,18 +21,6 @@ std::string_view SoundName(Sound event) {
 
 }  // namespace
 
-std::string MemoryStore::Read(std::string_view section, std::string_view key,
-                              std::string_view fallback) const {
-    const auto inSection = sections_.find(section);
-    if (inSection == sections_.end()) return std::string(fallback);
-    const auto found = inSection->second.find(key);
-    return std::string(found == inSection->second.end() ? fallback : found->second);
-}
-
-void MemoryStore::Write(std::string_view section, std::string_view key, std::string_view text) {
-    sections_[std::string(section)].insert_or_assign(std::string(key), std::string(text));
-}
-
 bool ScriptClock::Advance(std::int64_t seconds) {
     constexpr std::int64_t kLongest = 400'000'000'000;  // more than all years of the calendar
     if (seconds > kLongest) return false;

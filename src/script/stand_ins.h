@@ -1,26 +1,17 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <ostream>
 #include <string>
 
-#include "engine/desktop.h"
+#include "engine/null_desktop.h"
 
-/// The desktop of the scripted table: settings in memory, a clock that stands still, a surface
-/// without pixels.
+/// What the scripted table needs of a desktop besides a null one: a clock that the script moves,
+/// sounds and boxes that print.
 namespace varnello::script {
 
-class MemoryStore : public SettingsStore {
-public:
-    std::string Read(std::string_view section, std::string_view key,
-                     std::string_view fallback) const override;
-    void Write(std::string_view section, std::string_view key, std::string_view text) override;
-
-private:
-    using Section = std::map<std::string, std::string, std::less<>>;
-    std::map<std::string, Section, std::less<>> sections_;
-};
+using varnello::MemoryStore;
+using varnello::NoSurface;
 
 class ScriptClock : public Clock {
 public:
@@ -32,13 +23,6 @@ public:
 
 private:
     DateTime now_{.year = 2026, .month = 1, .day = 1, .hour = 12};
-};
-
-class NoSurface : public TableSurface {
-public:
-    void Repaint() override {}
-    void RepaintFlight() override {}
-    void Yield() override {}
 };
 
 /// Prints each sound while `on` is set.

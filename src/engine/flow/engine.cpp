@@ -59,6 +59,8 @@ void Engine::Begin(const GameRequest& request) {
     selectGame(games, request.name);
     data.CurGNo = request.number;
     data.CurGName(request.name);
+    caption_ = std::string(kProductName) + " [" + data.CurGName() + "] [" + data.CurPlayer() +
+               "] [" + data.CurGNo.Shown() + "]";
 
     generator_.rtcRandomize(desktop_.clock.Timer());
     array_.Init(data.CurGNo.Value());
@@ -125,12 +127,5 @@ void Engine::MoveBegins(const CardMove& move) {
 }
 
 void Engine::AutoPlay() { varnello::AutoPlay(field_); }
-
-std::string Engine::Caption() const {
-    std::string caption(kProductName);
-    if (data.CurGName().empty()) return caption;
-    return caption + " [" + data.CurGName() + "] [" + data.CurPlayer() + "] [" +
-           data.CurGNo.Shown() + "]";
-}
 
 }  // namespace varnello

@@ -79,7 +79,9 @@ public:
     // What the shell shows.
     MenuMarks UpdateMenus() const;
     std::array<std::string, kMaxRecent> UpdateRecent() const;
-    std::string Caption() const;
+    /// The main window's caption: the product name, from the first game on with the game, the
+    /// player and the number that the last game began with.
+    const std::string& Caption() const { return caption_; }
 
     std::int16_t CalcScore() const;
     std::int32_t ElapsedTime() const;
@@ -119,6 +121,7 @@ private:
     Gestures gestures_;
     bool dealing_ = false;
     bool dealAbandoned_ = false;
+    std::string caption_{kProductName};
     std::optional<GameRequest> nextGame_;  ///< asked for during a deal
     bool forwardOn_ = false;
     bool backwardOn_ = false;
