@@ -1,0 +1,48 @@
+#include "desktop/appearance/background.h"
+
+#include <QPainter>
+
+#include "desktop/appearance/colours.h"
+#include "engine/common/rounding.h"
+
+namespace varnello {
+namespace {
+
+constexpr int kBands = 256;
+
+QColor ColourOf(const BackgroundChoice& choice) {
+    if (choice.bgIndex == kCustomBackground) {
+        if (const auto colour = ColourOfValue(choice.customColor)) return *colour;
+    }
+    if (const auto named = GetCol(choice.bgIndex)) return named->colour;
+    return GetCol(keys::BGIndex.Default)->colour;
+}
+
+}  // namespace
+
+BackgroundChoice StoredBackground(const cData& data) {
+    return {.bgIndex = data.Get(keys::BGIndex),
+            .fade = data.Get(keys::Fade) == 1,
+            .customColor = data.CustomColor()};
+}
+
+void SetBG(QImage& surface, const BackgroundChoice& choice) {
+    FadeFill(surface, ColourOf(choice), choice.fade);
+}
+
+void FadeFill(QImage& surface, const QColor& colour, bool fade) {
+    const auto channel = [&](int start, int band) {
+        const double step = fade ? -start / 255.0 : 0.0;
+        return static_cast<int>(RoundHalfEven(std::max(band * step + start, 0.0)));
+    };
+    QPainter painter(&surface);
+    for (int band = 0; band < kBands; ++band) {
+        const int top = band * surface.height() / kBands;
+        const int bottom = (band + 1) * surface.height() / kBands;
+        painter.fillRect(0, top, surface.width(), bottom - top,
+                         QColor(channel(colour.red(), band), channel(colour.green(), band),
+                                channel(colour.blue(), band)));
+    }
+}
+
+}  // namespace varnello

@@ -1,0 +1,56 @@
+#include "desktop/appearance/colours.h"
+
+#include <array>
+
+namespace varnello {
+namespace {
+
+struct Row {
+    const char* name;
+    int red, green, blue;
+};
+
+// In the order of their numbers, the first being one above the custom colour's.
+constexpr std::array<Row, 25> kColours{{
+    {"Blue", 0, 0, 255},
+    {"Brown", 165, 42, 42},
+    {"Chocolate", 210, 105, 30},
+    {"Corn Flower", 100, 149, 237},
+    {"Crimson", 220, 20, 60},
+    {"Dark Blue", 0, 0, 139},
+    {"Dark Green", 0, 100, 0},
+    {"Dark Magenta", 139, 0, 139},
+    {"Dark Olive Green", 85, 107, 47},
+    {"Dark Red", 139, 0, 0},
+    {"Dark Slate Blue", 72, 61, 139},
+    {"Dark Slate Gray", 47, 79, 79},
+    {"Dark Violet", 148, 0, 211},
+    {"Deep Pink", 255, 20, 147},
+    {"Deep Sky Blue", 0, 191, 255},
+    {"Forest Green", 34, 139, 34},
+    {"Green", 0, 128, 0},
+    {"Indigo", 75, 0, 130},
+    {"Orange Red", 255, 69, 0},
+    {"Purple", 128, 0, 128},
+    {"Red", 255, 0, 0},
+    {"Saddle Brown", 139, 69, 19},
+    {"Sea Green", 46, 139, 87},
+    {"Sienna", 160, 82, 45},
+    {"Tomato", 255, 99, 71},
+}};
+
+}  // namespace
+
+std::optional<NamedColour> GetCol(int bgIndex) {
+    const int place = bgIndex - kCustomBackground - 1;
+    if (place < 0 || place >= static_cast<int>(kColours.size())) return std::nullopt;
+    const Row& row = kColours[static_cast<std::size_t>(place)];
+    return NamedColour{QString::fromLatin1(row.name), QColor(row.red, row.green, row.blue)};
+}
+
+std::optional<QColor> ColourOfValue(std::int32_t value) {
+    if (value < 0 || value > 0xFFFFFF) return std::nullopt;
+    return QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF);
+}
+
+}  // namespace varnello

@@ -1,0 +1,122 @@
+#include "desktop/choosers/select_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/appearance/preview.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr int kTreeWidth = 230;
+
+}  // namespace
+
+SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      tree_(new QTreeWidget),
+      players_(new QComboBox),
+      name_(new QLabel),
+      preview_(new QLabel),
+      play_(new QPushButton(QStringLiteral("Play"))),
+      rules_(new QPushButton(QStringLiteral("Rules"))) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(ToQt(kProductName));
+
+    tree_->setHeaderHidden(true);
+    tree_->setMinimumWidth(kTreeWidth);
+    tree_->setAccessibleName(QStringLiteral("Games"));
+    players_->setAccessibleName(QStringLiteral("Player"));
+    QFont large = name_->font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setBold(true);
+    name_->setFont(large);
+    preview_->setFixedSize(kPreviewSize);
+    preview_->setAccessibleName(QStringLiteral("Preview of the game"));
+    rules_->setEnabled(false);
+
+    auto* frame = new QGroupBox;
+    auto* inFrame = new QVBoxLayout(frame);
+    inFrame->addWidget(preview_);
+
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(rules_, QDialogButtonBox::HelpRole);
+    buttons->addButton(play_, QDialogButtonBox::AcceptRole);
+    auto* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+
+    auto* right = new QVBoxLayout;
+    right->addWidget(name_);
+    right->addWidget(frame);
+    right->addSpacing(6);
+    right->addWidget(players_);
+    right->addStretch();
+    right->addWidget(buttons);
+    auto* all = new QHBoxLayout(this);
+    all->addWidget(tree_, 1);
+    all->addLayout(right);
+
+    FillPlayers();
+    FillTree();
+    connect(tree_, &QTreeWidget::currentItemChanged, this, &SelectDialog::ShowGame);
+    connect(tree_, &QTreeWidget::itemDoubleClicked, this, &SelectDialog::Play);
+    connect(play_, &QPushButton::clicked, this, &SelectDialog::Play);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    ShowGame();
+    play_->setDefault(true);
+    tree_->setFocus();
+}
+
+void SelectDialog::FillPlayers() {
+    const cData& data = engine_.data;
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        players_->addItem(SmallIcon(QStringLiteral("player")), ToQt(data.GetPlayer(slot)));
+    }
+    const int current =
+        players_->findText(ToQt(data.CurPlayer()), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    players_->setCurrentIndex(std::max(current, 0));
+}
+
+void SelectDialog::FillTree() {
+    const cData& data = engine_.data;
+    auto* root = new QTreeWidgetItem(tree_, {QStringLiteral("Games")});
+    root->setIcon(0, SmallIcon(QStringLiteral("games")));
+    const QString last = ToQt(data.LastGName());
+    QTreeWidgetItem* selected = nullptr;
+    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
+        auto* item = new QTreeWidgetItem(root, {ToQt(data.GetGName(id))});
+        item->setIcon(0, SmallIcon(QStringLiteral("game")));
+        if (id == 1 || item->text(0) == last) selected = item;
+    }
+    root->setExpanded(true);
+    tree_->setCurrentItem(selected);
+    tree_->scrollToItem(selected, QAbstractItemView::PositionAtCenter);
+}
+
+QString SelectDialog::SelectedGame() const {
+    const QTreeWidgetItem* item = tree_->currentItem();
+    return item && item->parent() ? item->text(0) : QString();
+}
+
+void SelectDialog::ShowGame() {
+    const QString game = SelectedGame();
+    play_->setEnabled(!game.isEmpty());
+    if (game.isEmpty()) return;  // the root keeps the last game's name and picture
+    name_->setText(game);
+    preview_->setPixmap(PreviewOf(game.toStdString(), devicePixelRatioF()));
+}
+
+void SelectDialog::Play() {
+    const QString game = SelectedGame();
+    if (game.isEmpty()) return;
+    hide();
+    engine_.data.CurPlayer(players_->currentText().toStdString());
+    engine_.StartGame(game.toStdString(), engine_.RandomGNo());
+    accept();
+}
+
+}  // namespace varnello

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "engine/flow/engine.h"
+
+namespace varnello {
+
+/// `frmSelect`: a game is chosen by name, with a preview of its table, and a player. It opens on
+/// the last game played and the current player.
+class SelectDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    SelectDialog(Engine& engine, QWidget* parent);
+
+    QTreeWidget* tree() const { return tree_; }
+    QComboBox* players() const { return players_; }
+    QPushButton* play() const { return play_; }
+
+private:
+    void FillPlayers();
+    void FillTree();
+    void ShowGame();
+    void Play();
+    /// The selected game's name; empty while the root is selected.
+    QString SelectedGame() const;
+
+    Engine& engine_;
+    QTreeWidget* tree_;
+    QComboBox* players_;
+    QLabel* name_;
+    QLabel* preview_;
+    QPushButton* play_;
+    QPushButton* rules_;
+};
+
+}  // namespace varnello

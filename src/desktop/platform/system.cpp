@@ -1,0 +1,32 @@
+#include "desktop/platform/system.h"
+
+#include <QDateTime>
+#include <QStandardPaths>
+
+#include "desktop/platform/text.h"
+#include "engine/settings/data.h"
+
+namespace varnello {
+
+DateTime SystemClock::Now() const {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return {.year = date.year(),
+            .month = date.month(),
+            .day = date.day(),
+            .hour = time.hour(),
+            .minute = time.minute(),
+            .second = time.second()};
+}
+
+double SystemClock::Timer() const {
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch());
+}
+
+std::filesystem::path DataFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return std::filesystem::path(folder.toStdU16String()) / kProductName;
+}
+
+}  // namespace varnello

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+#include "engine/desktop.h"
+
+namespace varnello {
+
+/// The system's clock in local time.
+class SystemClock : public Clock {
+public:
+    DateTime Now() const override;
+    double Timer() const override;
+};
+
+/// `AppDir`: the folder "Varnello" in the user's data folder.
+std::filesystem::path DataFolder();
+
+}  // namespace varnello

@@ -1,0 +1,83 @@
+#include "desktop/reports/finish_dialog.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/modules/chart_module.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr int kListWidth = 247;  // pixels
+constexpr QSize kChartSize(330, 240);
+
+}  // namespace
+
+FinishDialog::FinishDialog(const FinishFigures& figures, QWidget* parent) : QDialog(parent) {
+    setWindowTitle(QStringLiteral("Congrats"));
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(MakeToolbar());
+    all->addWidget(MakeResult(figures));
+}
+
+QWidget* FinishDialog::MakeToolbar() {
+    auto* strip = new QWidget;
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(0, 0, 0, 0);
+    const auto button = [&](const char* icon, const char* caption) {
+        auto* made = new QToolButton;
+        made->setIcon(SmallIcon(QString::fromLatin1(icon)));
+        made->setText(QString::fromLatin1(caption));
+        made->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        made->setAutoRaise(true);
+        made->setFocusPolicy(Qt::StrongFocus);
+        made->setMinimumWidth(84);
+        row->addWidget(made);
+        return made;
+    };
+    const auto choose = [&](QToolButton* made, FinishChoice choice) {
+        connect(made, &QToolButton::clicked, this, [this, choice] {
+            choice_ = choice;
+            accept();
+        });
+    };
+    choose(button("new", "New Game"), FinishChoice::NewGame);
+    choose(button("select", "Select Game"), FinishChoice::SelectGame);
+    choose(button("restart", "Restart Game"), FinishChoice::RestartGame);
+    button("statistics", "Statistics")->setEnabled(false);
+    button("highscore", "High Score")->setEnabled(false);
+    choose(button("close", "Close"), FinishChoice::Close);
+    row->addStretch();
+    return strip;
+}
+
+QWidget* FinishDialog::MakeResult(const FinishFigures& figures) {
+    auto* frame = new QGroupBox(ToQt(figures.Game));
+    auto* row = new QHBoxLayout(frame);
+
+    auto* list = new QListWidget;
+    for (const std::string& line : figures.Lines) list->addItem(ToQt(line));
+    list->setFixedWidth(kListWidth);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setSpacing(3);
+    list->setAccessibleName(QStringLiteral("Result"));
+    row->addWidget(list);
+
+    if (ChartModule* charts = Charts()) {
+        const QList<ChartBar> bars{{QStringLiteral("Score"), static_cast<double>(figures.Score)},
+                                   {QStringLiteral("Moves"), static_cast<double>(figures.Moves)},
+                                   {QStringLiteral("Time"), static_cast<double>(figures.Time)}};
+        QWidget* chart = charts->TotalsChart(bars, frame);
+        chart->setMinimumSize(kChartSize);
+        chart->setAccessibleName(QStringLiteral("Score, moves and time as columns"));
+        row->addWidget(chart);
+    }
+    return frame;
+}
+
+}  // namespace varnello

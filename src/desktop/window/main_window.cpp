@@ -1,0 +1,157 @@
+#include "desktop/window/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QScreen>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/platform/text.h"
+#include "desktop/reports/finish_dialog.h"
+
+namespace varnello {
+namespace {
+
+constexpr int kToolbarHeight = 25;        // pixels of the strip along the top
+constexpr QSize kRestoredSize(673, 437);  // client area of the restored window
+constexpr int kMenuPoll = 100;            // milliseconds
+constexpr int kCounterPoll = 500;
+constexpr int kReplayStep = 500;
+
+}  // namespace
+
+MainWindow::MainWindow(const System& system) : table_(new TableView) {
+    engine_ = std::make_unique<Engine>(
+        Desktop{system.settings, system.clock, *table_, system.sounds, *this, system.dataFolder});
+    table_->SetEngine(engine_.get());
+
+    auto* client = new QWidget;
+    client->installEventFilter(this);
+    setCentralWidget(client);
+    menu_ = std::make_unique<MainMenu>(*menuBar(), *engine_, static_cast<Shell&>(*this));
+    toolbar_ = new Toolbar(*menu_, client);
+    table_->setParent(client);
+
+    engine_->InitMain();
+    menu_->UpdateMenus();
+    toolbar_->UpdateToolbar();
+    setWindowTitle(ToQt(kProductName));
+    setWindowIcon(ProgramIcon());
+    resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
+    move(screen()->availableGeometry().center() - rect().center());
+    StartTimers();
+}
+
+MainWindow::~MainWindow() {
+    // The view goes with the window's children, after the engine.
+    centralWidget()->removeEventFilter(this);
+}
+
+void MainWindow::StartTimers() {
+    tmrForward_.setInterval(kReplayStep);
+    tmrBackward_.setInterval(kReplayStep);
+    connect(&tmrMain_, &QTimer::timeout, this, &MainWindow::OnMainTimer);
+    connect(&tmrTime_, &QTimer::timeout, this, [this] {
+        menu_->ShowCounters(engine_->TimeTick());
+        table_->Sync();
+    });
+    connect(&tmrForward_, &QTimer::timeout, this, [this] {
+        engine_->ForwardTick();
+        Refresh();
+    });
+    connect(&tmrBackward_, &QTimer::timeout, this, [this] {
+        engine_->BackwardTick();
+        Refresh();
+    });
+    tmrMain_.start(kMenuPoll);
+    tmrTime_.start(kCounterPoll);
+}
+
+void MainWindow::OnMainTimer() {
+    menu_->UpdateMenus();
+    toolbar_->UpdateToolbar();
+    setWindowTitle(ToQt(engine_->Caption()));
+    OnReplayTimers();
+}
+
+void MainWindow::OnReplayTimers() {
+    const auto follow = [](QTimer& timer, bool on) {
+        if (on == timer.isActive()) return;
+        if (on) {
+            timer.start();
+        } else {
+            timer.stop();
+        }
+    };
+    follow(tmrForward_, engine_->ForwardOn());
+    follow(tmrBackward_, engine_->BackwardOn());
+}
+
+void MainWindow::Refresh() {
+    table_->Sync();
+    OnReplayTimers();
+}
+
+void MainWindow::LayoutMain() {
+    if (isMinimized()) return;
+    const QRect client = centralWidget()->rect();
+    const int top = engine_->data.Get(keys::ShowToolbar) == 0 ? 0 : kToolbarHeight;
+    toolbar_->setGeometry(0, 0, client.width(), kToolbarHeight);
+    table_->setGeometry(0, top, client.width(), std::max(client.height() - top, 0));
+    table_->raise();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == centralWidget() && event->type() == QEvent::Resize) LayoutMain();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (engine_->Dealing()) {
+        // First the deal has to come back; it leaves no game behind.
+        engine_->AbandonDeal();
+        event->ignore();
+        QTimer::singleShot(0, this, &QWidget::close);
+        return;
+    }
+    if (engine_->data.GameRunning) engine_->EndGame(0);
+    event->accept();
+    Q_EMIT Closed();
+}
+
+void MainWindow::ShowSelectModeless() {
+    if (!select_) select_ = new SelectDialog(*engine_, this);
+    select_->show();
+    select_->raise();
+    select_->activateWindow();
+}
+
+void MainWindow::ShowSelect() {
+    if (select_) return ShowSelectModeless();
+    select_ = new SelectDialog(*engine_, this);
+    select_->exec();
+}
+
+void MainWindow::Inform(const std::string& text) {
+    QMessageBox::information(
+        QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this,
+        ToQt(kProductName), ToQt(text));
+}
+
+void MainWindow::ShowFinish() {
+    FinishChoice choice = FinishChoice::Close;
+    {
+        FinishDialog dialog(engine_->LoadFinish(), this);
+        dialog.exec();
+        choice = dialog.Choice();
+    }
+    switch (choice) {
+        case FinishChoice::NewGame: return engine_->NewGame();
+        case FinishChoice::SelectGame: return ShowSelect();
+        case FinishChoice::RestartGame:
+            return engine_->StartGame(engine_->data.CurGName(), engine_->data.CurGNo);
+        case FinishChoice::Close: break;
+    }
+}
+
+}  // namespace varnello

@@ -1,0 +1,193 @@
+#include "desktop/window/table_view.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+#include <cmath>
+#include <thread>
+
+namespace varnello {
+namespace {
+
+constexpr double kShiftLeft = 20;  // twips that the table stands left of the middle
+
+// A deal of 52 cards takes about one and a half seconds, with three steps a card.
+constexpr std::chrono::microseconds kDealStep{9500};
+
+}  // namespace
+
+TableView::TableView(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Card table"));
+}
+
+void TableView::SetEngine(Engine* engine) { engine_ = engine; }
+
+QSize TableView::sizeHint() const {
+    return {qRound(kTableWidth / kTwipsPerPixel), qRound(kTableHeight / kTwipsPerPixel)};
+}
+
+const CardPictures& TableView::Pictures() {
+    if (!pictures_ || pictures_->Ratio() != Ratio()) {
+        pictures_ = std::make_unique<CardPictures>(Ratio());
+        background_ = {};
+    }
+    return *pictures_;
+}
+
+void TableView::RefreshBackground() {
+    background_ = {};
+    update();
+}
+
+void TableView::RefreshDecks() { update(); }
+
+QPoint TableView::TableCorner() const {
+    const double left = (width() - sizeHint().width()) / 2.0 - kShiftLeft / kTwipsPerPixel;
+    return {static_cast<int>(std::lround(left * Ratio())), 0};
+}
+
+QPointF TableView::ToTwips(const QPointF& point) const {
+    return (point * Ratio() - TableCorner()) / Ratio() * kTwipsPerPixel;
+}
+
+QPoint TableView::CardCentre(PicID id) const {
+    const KesCard& card = engine_->table.Card(id);
+    const QPointF twips(card.Left + kCardWidth / 2.0, card.Top + kCardHeight / 2.0);
+    return (twips / kTwipsPerPixel + QPointF(TableCorner()) / Ratio()).toPoint();
+}
+
+TableView::Shown TableView::Look(const KesCard& card) {
+    if (!card.Visible) return {};
+    const bool closed = card.FaceMode == FaceMode::Closed;
+    return {RectOnTable(Pictures(), card.Left, card.Top),
+            closed ? 0 : card.Suit * 13 + card.Num + 1, card.Height};
+}
+
+TableView::Shown TableView::Look(const KesEmpty& slot) {
+    if (!slot.Visible) return {};
+    return {RectOnTable(Pictures(), slot.Left, slot.Top), slot.Picture, 0};
+}
+
+QRegion TableView::TakeChanges() {
+    QRegion changed;
+    const auto take = [&](Shown& shown, const Shown& now) {
+        if (shown == now) return;
+        changed += shown.at;
+        changed += now.at;
+        shown = now;
+    };
+    for (PicID id = 0; id < kCardObjects; ++id) {
+        take(shownCards_[static_cast<std::size_t>(id)], Look(engine_->table.Card(id)));
+    }
+    std::size_t place = 0;
+    ForEachSlot(engine_->table, [&](const char*, int, const KesEmpty& slot) {
+        take(shownSlots_[place++], Look(slot));
+    });
+    return changed;
+}
+
+QRegion TableView::ToWidget(const QRegion& device) const {
+    QRegion region;
+    for (const QRect& rect : device.translated(TableCorner())) {
+        region += QRectF(rect.x() / Ratio(), rect.y() / Ratio(), rect.width() / Ratio(),
+                         rect.height() / Ratio())
+                      .toAlignedRect();
+    }
+    return region;
+}
+
+void TableView::Sync() { update(ToWidget(TakeChanges())); }
+
+void TableView::Repaint() {
+    const QRegion changed = ToWidget(TakeChanges());
+    if (!changed.isEmpty() && isVisible()) repaint(changed);
+}
+
+void TableView::RepaintFlight() {
+    const auto shown = Steady::now();
+    Repaint();
+    if (paced_ && isVisible()) std::this_thread::sleep_until(shown + FlightStep());
+}
+
+std::chrono::steady_clock::duration TableView::FlightStep() const {
+    if (engine_->Dealing()) return kDealStep;
+    const double rate = screen() ? std::clamp(screen()->refreshRate(), 30.0, 240.0) : 60.0;
+    return std::chrono::duration_cast<Steady::duration>(std::chrono::duration<double>(1.0 / rate));
+}
+
+void TableView::Yield() {
+    Sync();
+    QCoreApplication::processEvents();
+}
+
+void TableView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const CardPictures& pictures = Pictures();
+    if (background_.isNull()) {
+        background_ = BackgroundPicture(Ratio(), StoredBackground(engine_->data));
+    }
+
+    // From here on in device pixels with the table's corner at the origin, so that every edge stays
+    // whole at any ratio.
+    const QTransform device = painter.deviceTransform();
+    const QPointF origin = device.map(QPointF(0, 0));
+    const QPoint corner = QPoint(qRound(origin.x()), qRound(origin.y())) + TableCorner();
+    painter.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) *
+                              device.inverted());
+
+    const QRect dirty = device.mapRect(QRectF(event->rect())).toAlignedRect().translated(-corner);
+    const QRegion beside = QRegion(dirty) - background_.rect();
+    for (const QRect& rect : beside) painter.fillRect(rect, palette().color(QPalette::Mid));
+    const QRect part = dirty & background_.rect();
+    painter.drawImage(part.topLeft(), background_, part);
+    PaintTable(painter, engine_->table, pictures, engine_->data.Get(keys::DeckIndex), dirty);
+}
+
+bool TableView::OnStockSlot(const QPointF& twips) const {
+    const KesEmpty& slot = engine_->table.PicStock[0];
+    return slot.Visible && QRectF(slot.Left, slot.Top, kCardWidth, kCardHeight).contains(twips);
+}
+
+void TableView::mousePressEvent(QMouseEvent* event) {
+    if (pressedButton_ != Qt::NoButton) return;  // one gesture at a time, whatever the button
+    pressedButton_ = event->button();
+    const QPointF at = ToTwips(event->position());
+    pressed_ = engine_->table.CardAt(at.x(), at.y());
+    if (pressed_ == kNoCard) {
+        stockPressed_ = OnStockSlot(at);
+        return;
+    }
+    const KesCard& card = engine_->table.Card(pressed_);
+    engine_->gestures().MouseDown(pressed_, at.x() - card.Left, at.y() - card.Top);
+    Sync();
+}
+
+void TableView::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton) return EndGesture();  // the release was lost
+    if (pressed_ == kNoCard) return;
+    const QPointF at = ToTwips(event->position());
+    const KesCard& card = engine_->table.Card(pressed_);
+    engine_->gestures().MouseMove(pressed_, at.x() - card.Left, at.y() - card.Top);
+    Sync();
+}
+
+void TableView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != pressedButton_) return;
+    if (stockPressed_ && OnStockSlot(ToTwips(event->position()))) {
+        engine_->gestures().StockClick();
+    }
+    EndGesture();
+}
+
+void TableView::EndGesture() {
+    const PicID id = std::exchange(pressed_, kNoCard);
+    pressedButton_ = Qt::NoButton;
+    stockPressed_ = false;
+    if (id != kNoCard) engine_->gestures().MouseUp(id);
+    Sync();
+}
+
+}  // namespace varnello

@@ -1,0 +1,72 @@
+#include "desktop/window/toolbar.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+
+#include "desktop/appearance/icons.h"
+
+namespace varnello {
+namespace {
+
+constexpr QSize kButton(41, 25);  // device-independent pixels
+
+QFrame* Separator(QWidget* parent) {
+    auto* line = new QFrame(parent);
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    line->setFixedSize(9, kButton.height() - 8);
+    return line;
+}
+
+}  // namespace
+
+Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent) {
+    setAutoFillBackground(true);
+    auto* strip = new QHBoxLayout(this);
+    strip->setContentsMargins(2, 0, 2, 0);
+    strip->setSpacing(0);
+
+    const auto button = [&](int index, const char* icon, const char* tip, QAction* item) {
+        auto* made = new QToolButton(this);
+        made->setIcon(SmallIcon(QString::fromLatin1(icon)));
+        made->setIconSize(QSize(16, 16));
+        made->setFixedSize(kButton);
+        made->setAutoRaise(true);
+        made->setFocusPolicy(Qt::NoFocus);
+        made->setToolTip(QString::fromLatin1(tip));
+        made->setAccessibleName(QString::fromLatin1(tip));
+        connect(made, &QToolButton::clicked, item, &QAction::trigger);
+        strip->addWidget(made);
+        buttons_[static_cast<std::size_t>(index)] = made;
+        items_[static_cast<std::size_t>(index)] = item;
+    };
+    const auto separator = [&] { strip->addWidget(Separator(this)); };
+
+    button(1, "new", "New Game", menu.mFile(1));
+    button(2, "select", "Select Game", menu.mFile(2));
+    button(3, "restart", "Restart Game", menu.mFile(4));
+    separator();
+    button(5, "autoplay", "Autoplay", menu.mGame(4));
+    separator();
+    button(7, "undo", "Undo", menu.mGame(1));
+    button(8, "redo", "Redo", menu.mGame(2));
+    separator();
+    button(10, "back", "Replay Back", menu.mReplay(2));
+    button(11, "stop", "Replay Stop", menu.mReplay(6));
+    button(12, "forward", "Replay Forward", menu.mReplay(1));
+    separator();
+    button(14, "statistics", "Statistics", menu.mStat(1));
+    separator();
+    button(16, "help", "Help", menu.mHelp(1));
+    strip->addStretch();
+    Button(5)->setCheckable(true);
+}
+
+void Toolbar::UpdateToolbar() {
+    for (std::size_t i = 1; i < buttons_.size(); ++i) {
+        if (buttons_[i]) buttons_[i]->setEnabled(items_[i]->isEnabled());
+    }
+    Button(5)->setChecked(items_[5]->isChecked());
+}
+
+}  // namespace varnello
