@@ -154,6 +154,7 @@ bool TableView::OnStockSlot(const QPointF& twips) const {
 void TableView::mousePressEvent(QMouseEvent* event) {
     if (pressedButton_ != Qt::NoButton) return;  // one gesture at a time, whatever the button
     pressedButton_ = event->button();
+    setMouseTracking(true);  // a release that was lost shows as a move without a button
     const QPointF at = ToTwips(event->position());
     pressed_ = engine_->table.CardAt(at.x(), at.y());
     if (pressed_ == kNoCard) {
@@ -185,6 +186,7 @@ void TableView::mouseReleaseEvent(QMouseEvent* event) {
 void TableView::EndGesture() {
     const PicID id = std::exchange(pressed_, kNoCard);
     pressedButton_ = Qt::NoButton;
+    setMouseTracking(false);
     stockPressed_ = false;
     if (id != kNoCard) engine_->gestures().MouseUp(id);
     Sync();

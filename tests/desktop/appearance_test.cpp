@@ -1,0 +1,138 @@
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cmath>
+#include <set>
+
+#include "desktop/appearance/background.h"
+#include "desktop/appearance/colours.h"
+#include "desktop/appearance/preview.h"
+#include "desktop/appearance/table_painter.h"
+#include "desktop/platform/settings_store.h"
+#include "engine/definitions/catalogue.h"
+
+// Colours, pictures and the settings file.
+using namespace varnello;
+
+class AppearanceTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir home_;
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", home_.path().toUtf8()); }
+
+    void AFadeHas256EqualBands() {
+        QImage surface(40, 1024, QImage::Format_RGB32);
+        SetBG(surface,
+              {.bgIndex = 1000, .fade = true, .customColor = 200 + 256 * 101 + 65536 * 255});
+        for (int band = 0; band < 256; ++band) {
+            const auto channel = [&](double start) {
+                return static_cast<int>(std::nearbyint(band * (-start / 255) + start));
+            };
+            const QColor expected(channel(200), channel(101), channel(255));
+            QCOMPARE(surface.pixelColor(0, band * 4), expected);
+            QCOMPARE(surface.pixelColor(39, band * 4 + 3), expected);
+        }
+        QCOMPARE(surface.pixelColor(0, 1023), QColor(Qt::black));
+    }
+
+    void PaintsColoursByNumber_data() {
+        QTest::addColumn<int>("bgIndex");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("default") << 1007 << QColor(0, 100, 0);
+        QTest::newRow("not offered but known") << 1025 << QColor(255, 99, 71);
+        QTest::newRow("custom") << 1000 << QColor(128, 0, 0);
+        QTest::newRow("beyond the table") << 1026 << QColor(0, 100, 0);
+        QTest::newRow("nonsense") << -3 << QColor(0, 100, 0);
+    }
+
+    void PaintsColoursByNumber() {
+        QFETCH(int, bgIndex);
+        QFETCH(QColor, colour);
+        QImage surface(3, 300, QImage::Format_RGB32);
+        SetBG(surface, {.bgIndex = bgIndex, .fade = false});
+        QCOMPARE(surface.pixelColor(1, 0), colour);
+        QCOMPARE(surface.pixelColor(2, 299), colour);
+    }
+
+    void PicturesAreReadyMadeAtTheUsualRatios() {
+        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+            const QSize card = CardPictures(ratio).CardSize();
+            for (const auto& [name, columns, rows] :
+                 {std::tuple{"faces", 13, 4}, {"slots", 18, 1}, {"back-531", 1, 1}}) {
+                const QImage sheet(QStringLiteral(":/cards/%1@%2.png").arg(name).arg(ratio));
+                QCOMPARE(sheet.size(), QSize(card.width() * columns, card.height() * rows));
+            }
+        }
+        QCOMPARE(CardPictures(1.5).CardSize(), QSize(107, 144));
+        QCOMPARE(CardPictures(2.2).MainPic(52).sheet->width(), 156 * 13);
+    }
+
+    void AllPicturesDiffer() {
+        const CardPictures pictures(1);
+        std::set<QByteArray> seen;
+        const auto isNew = [&](const CardPictures::Part& part) {
+            const QImage image = part.sheet->copy(part.rect);
+            return seen
+                .insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
+                                   image.sizeInBytes()))
+                .second;
+        };
+        for (int n = 1; n <= 52; ++n) QVERIFY(isNew(pictures.MainPic(n)));
+        for (int i = 0; i <= 17; ++i) QVERIFY(isNew(pictures.RightPic(i)));
+        QVERIFY(isNew(pictures.DeckPic(531)));
+        QVERIFY(!isNew(pictures.DeckPic(9999)));  // the default back stands in
+    }
+
+    void WhatShowsOfACoveredCardTellsItsValue() {
+        // No two cards look alike in the strips that the fans leave free.
+        const CardPictures pictures(1);
+        for (const QRect strip : {QRect(0, 0, 71, 16), QRect(0, 0, 12, 96)}) {
+            std::set<QByteArray> seen;
+            for (int n = 1; n <= 52; ++n) {
+                const CardPictures::Part part = pictures.MainPic(n);
+                const QImage image = part.sheet->copy(strip.translated(part.rect.topLeft()));
+                seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
+                                       image.sizeInBytes()));
+            }
+            QCOMPARE(seen.size(), std::size_t{52});
+        }
+    }
+
+    void PreviewsHaveTheirSizeAtEachRatio() {
+        const QPixmap preview = PreviewOf("Zodiac", 1.5);
+        QCOMPARE(preview.size(), QSize(477, 302));
+        QVERIFY(preview.toImage() != PreviewOf("Penguin", 1.5).toImage());
+    }
+
+    void SettingsAreOnDiskAtOnce() {
+        FileSettings store;
+        QCOMPARE(store.Read("Data", "Autoplay", "1"), "1");
+        store.Write("Data", "Autoplay", "0");
+        store.Write("Users", "1", "Zoë, \"the\" 名=[x]");
+        // A process killed now has left everything in the file.
+        const FileSettings other;
+        QCOMPARE(other.Read("Data", "Autoplay", "1"), "0");
+        QCOMPARE(other.Read("Users", "1", ""), "Zoë, \"the\" 名=[x]");
+    }
+
+    void ASettingsFileFullOfNonsenseReadsAsDefaults() {
+        const QString file = home_.path() + "/Varnello/Varnello.ini";
+        QFile broken(file);
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        QByteArray bytes("[Data\nAutoplay==\x01\xFF, 3\n]]\nUndoSpeed=abc\n@Invalid()\n\0\0");
+        for (int i = 0; i < 256; ++i) bytes.append(static_cast<char>(i));
+        broken.write(bytes);
+        broken.close();
+        FileSettings store;
+        (void)store.Read("Data", "UndoSpeed", "5");
+        store.Write("Data", "UndoSpeed", "7");
+        QCOMPARE(store.Read("Data", "UndoSpeed", "5"), "7");
+        QCOMPARE(FileSettings().Read("Data", "UndoSpeed", "5"), "7");
+    }
+};
+
+QTEST_MAIN(AppearanceTest)
+#include "appearance_test.moc"

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
+#include <vector>
+
+#include "desktop/window/main_window.h"
+#include "engine/common/text_file.h"
+#include "engine/definitions/catalogue.h"
+#include "engine/null_desktop.h"
+
+/// A main window whose settings live in memory and whose clock the test moves; score files go to a
+/// folder of the test's own. Flights aren't paced.
+class WindowFixture {
+public:
+    WindowFixture() : window({settings, clock, sounds, std::filesystem::path(Folder())}) {
+        window.table().SetPaced(false);
+        window.resize(1100, 830);
+        window.show();
+        (void)QTest::qWaitForWindowExposed(&window);
+    }
+
+    std::string Folder() const { return folder.path().toStdString() + "/data"; }
+    varnello::Engine& engine() { return window.engine(); }
+    const varnello::KesCard& Card(varnello::PicID id) { return engine().table.Card(id); }
+    varnello::PicID Top(varnello::Cell cell, int pile) {
+        return engine().array().GetTopPicID(cell, pile);
+    }
+
+    void Start(const char* game, double number = 1) {
+        engine().StartGame(game, varnello::GameNumber::Number(number));
+    }
+    void StartWithoutAutoplay(const char* game, double number = 1) {
+        engine().data.Set(varnello::keys::Autoplay, 0);
+        Start(game, number);
+    }
+
+    /// A point of the view for a point of the table in twips.
+    QPoint At(double x, double y) {
+        const double left = (window.table().width() - 1032) / 2.0 - 20 / 15.0;
+        return {qRound(left) + qRound(x / 15), qRound(y / 15)};
+    }
+    QPoint CentreOf(varnello::PicID id) { return At(Card(id).Left + 532, Card(id).Top + 720); }
+    void Press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(&window.table(), button, {}, at);
+    }
+    void Release(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseRelease(&window.table(), button, {}, at);
+    }
+    /// A move with a button held, which the test library's own moves don't carry.
+    void Move(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QMouseEvent event(QEvent::MouseMove, at, window.table().mapToGlobal(at), Qt::NoButton,
+                          button, {});
+        QCoreApplication::sendEvent(&window.table(), &event);
+    }
+    void Drag(varnello::PicID id, const QPoint& to, Qt::MouseButton button = Qt::LeftButton) {
+        Press(CentreOf(id), button);
+        Move(to, button);
+        Release(to, button);
+    }
+    /// The lines of the first player's score file, without their dates.
+    std::vector<std::string> Scores() {
+        auto lines = varnello::ReadLines(Folder() + "/Player1.sre");
+        for (std::string& line : lines) line = line.substr(line.find(',') + 1);
+        return lines;
+    }
+
+    struct StillMovable : varnello::Clock {
+        varnello::DateTime now{.year = 2026, .month = 11, .day = 22, .hour = 13};
+        varnello::DateTime Now() const override { return now; }
+        double Timer() const override { return 1; }
+    };
+    struct HeardSounds : varnello::SoundPlayer {
+        std::vector<varnello::Sound> heard;
+        void Play(varnello::Sound event) override { heard.push_back(event); }
+    };
+
+    QTemporaryDir folder;
+    varnello::MemoryStore settings;
+    StillMovable clock;
+    HeardSounds sounds;
+    varnello::MainWindow window;
+};

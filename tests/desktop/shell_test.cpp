@@ -1,0 +1,207 @@
+#include <QGroupBox>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QSignalSpy>
+
+#include "desktop/reports/finish_dialog.h"
+#include "desktop/window/splash.h"
+#include "fixture.h"
+
+// Start, end, menus, dialogs: what the window does around the game.
+using namespace varnello;
+
+namespace {
+
+/// A game of five cards, four of which start the foundations: the fifth one wins it.
+void SelectAlmostWon(cGames& games, const std::string&) {
+    GameRow row = *FindGame("Stripped Freecell");
+    row.Ext.TotalCards = 5;
+    row.Home.Cards = 1;
+    row.Goal = {
+        .Piles = 4, .Order = OrderCode::Anything, .Cards = 4, .GoalType = GoalType::FirstCards};
+    row.Stock.StockType = StockType::Closed;
+    SelectRow(games, row);
+}
+
+/// Does something as soon as a modal window of this kind is open.
+template <typename Dialog>
+void WhenOpen(std::function<void(Dialog&)> act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        timer->deleteLater();
+        timer->stop();
+        act(*dialog);
+    });
+    timer->start(5);
+}
+
+QToolButton* ButtonCalled(QWidget& parent, const QString& text) {
+    for (auto* button : parent.findChildren<QToolButton*>()) {
+        if (button->text() == text) return button;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+class ShellTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheSplashEndsOnce() {
+        for (const int way : {0, 1, 2}) {
+            Splash splash;
+            QSignalSpy ended(&splash, &Splash::Ended);
+            splash.show();
+            QCOMPARE(splash.size(), QSize(369, 237));
+            if (way == 0) QTest::mouseClick(&splash, Qt::LeftButton);
+            if (way == 1) QTest::keyClick(&splash, Qt::Key_Space);
+            QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 3000);
+            QTest::keyClick(&splash, Qt::Key_A);
+            QCOMPARE(ended.count(), 1);
+        }
+    }
+
+    void AFirstRunHasAPlayerAndAFolder() {
+        WindowFixture fixture;
+        QCOMPARE(fixture.engine().data.CurPlayer(), "Player1");
+        QVERIFY(std::filesystem::is_directory(fixture.Folder()));
+        QCOMPARE(fixture.window.windowTitle(), "Varnello");
+    }
+
+    void TheSelectorStartsTheChosenGameForTheChosenPlayer() {
+        WindowFixture fixture;
+        fixture.engine().data.AddPlayer("Ann");
+        fixture.window.ShowSelectModeless();
+        SelectDialog* select = fixture.window.select();
+        QCOMPARE(select->tree()->currentItem()->text(0), "Avenue");
+        select->tree()->setCurrentItem(select->tree()->topLevelItem(0));
+        QVERIFY(!select->play()->isEnabled());
+        select->tree()->setCurrentItem(select->tree()->topLevelItem(0)->child(24));
+        select->players()->setCurrentText("Ann");
+        QTest::mouseClick(select->play(), Qt::LeftButton);
+        QVERIFY(fixture.engine().data.GameRunning);
+        QCOMPARE(fixture.engine().data.CurGName(), "Penguin");
+        QCOMPARE(fixture.engine().data.CurPlayer(), "Ann");
+        QTRY_VERIFY(fixture.window.windowTitle().startsWith("Varnello [Penguin] [Ann] ["));
+        QTRY_VERIFY(!fixture.window.select());
+    }
+
+    void TheMarksFollowTheGame() {
+        WindowFixture fixture;
+        const MainMenu& menu = fixture.window.menu();
+        const Toolbar& toolbar = fixture.window.toolbar();
+        QVERIFY(menu.mFile(1)->isEnabled() && !menu.mFile(4)->isEnabled());
+        QVERIFY(menu.mRecent(1)->isVisible() && !menu.mRecent(2)->isVisible());
+        fixture.StartWithoutAutoplay("Freecell");
+        QTRY_VERIFY(menu.mFile(4)->isEnabled() && menu.mFile(5)->isEnabled());
+        QVERIFY(!menu.mGame(1)->isEnabled() && !toolbar.Button(5)->isChecked());
+        QCOMPARE(menu.mRecent(1)->text(), "&1 Freecell");
+        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
+        QTRY_VERIFY(menu.mGame(1)->isEnabled() && toolbar.Button(7)->isEnabled());
+        QTest::mouseClick(toolbar.Button(7), Qt::LeftButton);
+        QCOMPARE(fixture.engine().trans().GetTransID(), 0);
+        QTRY_VERIFY(menu.mGame(2)->isEnabled() && !menu.mGame(1)->isEnabled());
+        QTRY_COMPARE(menu.Counters()->text(), "Score :0     Time :0:00:00     Moves :0");
+        menu.mFile(5)->trigger();
+        QTRY_VERIFY(!menu.mFile(5)->isEnabled());
+        QTRY_COMPARE(menu.Counters()->text(), "");
+    }
+
+    void AReplayRunsByItselfAndStops() {
+        WindowFixture fixture;
+        fixture.StartWithoutAutoplay("Freecell");
+        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
+        const MainMenu& menu = fixture.window.menu();
+        QTRY_VERIFY(menu.mReplay(4)->isEnabled());
+        menu.mReplay(4)->trigger();
+        QCOMPARE(fixture.engine().trans().GetTransID(), 0);
+        QTRY_VERIFY(!menu.mGame(2)->isEnabled());
+        QTRY_COMPARE(fixture.engine().trans().GetTransID(), 1);
+        QTRY_VERIFY(menu.mReplay(6)->isEnabled());
+        QTRY_VERIFY(!menu.mReplay(6)->isEnabled() && menu.mGame(1)->isEnabled());
+    }
+
+    void TheTableStaysInTheMiddle() {
+        WindowFixture fixture;
+        TableView& table = fixture.window.table();
+        const QWidget* client = fixture.window.centralWidget();
+        QCOMPARE(table.geometry(), QRect(0, 25, client->width(), client->height() - 25));
+        fixture.window.menu().mGame(9)->trigger();
+        QCOMPARE(table.geometry(), client->rect());
+        fixture.window.resize(600, 500);
+        fixture.Start("Freecell");
+        const KesCard& card = fixture.Card(fixture.Top(Cell::Home, 0));
+        const double corner = (table.width() - 1032) / 2.0 - 20 / 15.0;
+        QCOMPARE(table.CardCentre(fixture.Top(Cell::Home, 0)).x(),
+                 qRound(corner + (card.Left + 532.5) / 15));
+    }
+
+    void TheCloseBoxBooksARunningGame() {
+        WindowFixture fixture;
+        QSignalSpy closed(&fixture.window, &MainWindow::Closed);
+        fixture.StartWithoutAutoplay("Freecell", 4711);
+        fixture.window.close();
+        QCOMPARE(closed.count(), 1);
+        QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Freecell\",4711,0,0,0,0"});
+    }
+
+    void AClosedWindowOrANewGameGivesADealUp() {
+        WindowFixture fixture;
+        QSignalSpy closed(&fixture.window, &MainWindow::Closed);
+        QTimer::singleShot(0, [&] {
+            QVERIFY(fixture.engine().Dealing());
+            fixture.Start("Penguin", 2);
+            QVERIFY(fixture.engine().Dealing());
+        });
+        fixture.Start("Freecell");
+        QCOMPARE(fixture.engine().data.CurGName(), "Penguin");
+        QVERIFY(fixture.engine().data.GameRunning);
+        QTimer::singleShot(0, [&] { fixture.window.close(); });
+        fixture.Start("Zodiac");
+        QTRY_COMPARE(closed.count(), 1);
+        QVERIFY(!fixture.engine().data.GameRunning);
+        QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Penguin\",2,0,0,0,0"});
+    }
+
+    void AWonGameShowsItsResultAndGoesOn() {
+        WindowFixture fixture;
+        fixture.engine().selectGame = SelectAlmostWon;
+        fixture.StartWithoutAutoplay("Stripped Freecell", 7);
+        QString frame;
+        QStringList lines;
+        WhenOpen<FinishDialog>([&](FinishDialog& dialog) {
+            QVERIFY(!fixture.engine().data.GameRunning);
+            frame = dialog.findChild<QGroupBox*>()->title();
+            const auto* list = dialog.findChild<QListWidget*>();
+            for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text();
+            ButtonCalled(dialog, "Restart Game")->click();
+        });
+        fixture.engine().ToggleAutoplay();  // the last card goes up at once
+        QCOMPARE(frame, "Stripped Freecell");
+        QCOMPARE(lines.value(0), " Game : 7");
+        QCOMPARE(lines.value(1), " Player : Player1");
+        QCOMPARE(lines.size(), 5);
+        QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Stripped Freecell\",7,0,0,0,1"});
+        QCOMPARE(fixture.engine().data.CurGNo.Shown(), "7");
+    }
+
+    void AResultThatCantBeWrittenIsTold() {
+        WindowFixture fixture;
+        std::filesystem::create_directories(fixture.Folder() + "/Player1.sre");
+        fixture.StartWithoutAutoplay("Freecell");
+        QString told;
+        WhenOpen<QMessageBox>([&](QMessageBox& box) {
+            told = box.text();
+            box.accept();
+        });
+        fixture.engine().CloseGame();
+        QVERIFY(told.contains("/Player1.sre"));
+        QVERIFY(!fixture.engine().data.GameRunning);
+    }
+};
+
+QTEST_MAIN(ShellTest)
+#include "shell_test.moc"
