@@ -47,7 +47,7 @@ QWidget* QtCharts::TotalsChart(const QList<ChartBar>& bars, QWidget* parent) {
     chart->addAxis(names, Qt::AlignBottom);
     series->attachAxis(names);
 
-    double highest = 1;
+    double highest = 10;  // so that the scale has whole numbers
     for (const ChartBar& bar : bars) highest = std::max(highest, bar.value);
     auto* scale = new QValueAxis;
     scale->setRange(0, highest);
