@@ -95,7 +95,7 @@ private:
     void Fly(KesCard& card, double x, double y, int steps);
 
     static std::size_t PileIndex(Cell cell, int pile) {
-        return static_cast<std::size_t>(static_cast<int>(cell) * kPilesPerCell + pile);
+        return static_cast<std::size_t>(cell) * kPilesPerCell + static_cast<std::size_t>(pile);
     }
     std::int16_t& TopIndex(Cell cell, int pile) { return topIndex_[PileIndex(cell, pile)]; }
     std::int16_t TopIndex(Cell cell, int pile) const { return topIndex_[PileIndex(cell, pile)]; }
@@ -112,8 +112,9 @@ private:
     TableSurface& surface_;
     MoveFollower& follower_;
     // One position more than there are cards: a pile can hold every card of the game.
-    std::array<std::array<PicID, kCardObjects + 1>, kCells * kPilesPerCell> cardGrid_;
-    std::array<std::int16_t, kCells * kPilesPerCell> topIndex_;
+    static constexpr std::size_t kAllPiles = std::size_t{kCells} * kPilesPerCell;
+    std::array<std::array<PicID, kCardObjects + 1>, kAllPiles> cardGrid_;
+    std::array<std::int16_t, kAllPiles> topIndex_;
     std::array<std::int16_t, kCardObjects + 1> dealOrder_{};
     bool motion_ = true;
     std::uint64_t serial_ = 0;

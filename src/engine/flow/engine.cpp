@@ -27,7 +27,9 @@ void Engine::InitMain() {
     // A folder that can't be made shows when the first result is booked.
     std::error_code ignored;
     std::filesystem::create_directories(data.AppDir(), ignored);
+    data.PackPlayers();  // settings edited by hand may have gaps, or nobody as the current player
     if (data.TotalPlayers() == 0) data.SetPlayer(1, "Player1", true);
+    if (data.CurPlayer().empty()) data.CurPlayer(data.GetPlayer(1));
 }
 
 GameNumber Engine::RandomGNo() {
@@ -35,8 +37,8 @@ GameNumber Engine::RandomGNo() {
     const std::int16_t range = data.Get(keys::RangeIndex);
     for (int i = 0; i < std::min<int>(range, 15); ++i) limit *= 10;
     if (range == 0) limit = 0;
-    generator_.rtcRandomize(desktop_.clock.Timer());
-    const double drawn = limit * static_cast<double>(generator_.rtcRandomNext());
+    numbers_.rtcRandomize(desktop_.clock.Timer());
+    const double drawn = limit * static_cast<double>(numbers_.rtcRandomNext());
     return GameNumber::Number(std::max(std::floor(drawn), 1.0));
 }
 
@@ -108,7 +110,7 @@ void Engine::CheckWon() {
 }
 
 FinishFigures Engine::LoadFinish() {
-    const FinishFigures figures{
+    FinishFigures figures{
         .Game = data.CurGName(),
         .Lines = {" Game : " + data.CurGNo.Shown(), " Player : " + data.CurPlayer(),
                   " Time : " + FormatTime(data.CurTime),

@@ -90,6 +90,8 @@ public:
     std::int16_t FindPlayer(std::string_view name) const;
     /// Puts the name into the first free slot; false when all 20 are taken.
     bool AddPlayer(std::string_view name);
+    /// Closes all gaps between the names, which keep their order.
+    void PackPlayers();
 
     // Recent games, 1 the newest.
     std::string GetRecent(std::int16_t index) const;

@@ -38,6 +38,19 @@ bool cData::AddPlayer(std::string_view name) {
     return true;
 }
 
+void cData::PackPlayers() {
+    std::int16_t next = 1;
+    for (std::int16_t slot = 1; slot <= kMaxPlayers; ++slot) {
+        const std::string name = GetPlayer(slot);
+        if (name.empty()) continue;
+        if (slot != next) {
+            SetPlayer(next, name, false);
+            SetPlayer(slot, {}, false);
+        }
+        ++next;
+    }
+}
+
 bool IsPlayerName(std::string_view name) {
     const auto unfit = [](char c) {
         return c == '/' || c == '\\' || (static_cast<unsigned char>(c) < 0x20) || c == 0x7F;
