@@ -14,23 +14,27 @@ constexpr double kGripX = 532;
 constexpr double kGripY = 720;
 
 std::string GameName(Words& words) {
-    const std::string name = words.Rest();
+    std::string name = words.Rest();
     if (!FindGame(name)) throw BadLine("no such game: " + name);
     return name;
 }
 
-/// Numbers with a fixed separator between them and nothing else, as in a date.
+/// Numbers of fixed widths with a separator between them, as in a date.
 template <std::size_t N>
-std::array<int, N> Split(std::string_view text, char separator) {
+std::array<int, N> Split(std::string_view text, const std::array<std::size_t, N>& widths,
+                         char separator) {
     std::array<int, N> numbers{};
     for (std::size_t i = 0; i < N; ++i) {
-        const std::size_t end = i + 1 < N ? text.find(separator) : text.size();
-        const std::string_view digits = text.substr(0, end);
+        const std::string_view digits = text.substr(0, widths[i]);
         const auto value = ParseWhole<int>(digits);
-        const bool wholeField = end != std::string_view::npos && value && digits[0] != '+';
-        if (!wholeField) throw BadLine("not a date and time");
+        text.remove_prefix(digits.size());
+        const bool last = i + 1 == N;
+        const bool ends = last ? text.empty() : text.starts_with(separator);
+        if (digits.size() != widths[i] || !value || digits[0] < '0' || !ends) {
+            throw BadLine("not a date and time");
+        }
         numbers[i] = *value;
-        text.remove_prefix(i + 1 < N ? end + 1 : end);
+        if (!last) text.remove_prefix(1);
     }
     return numbers;
 }
@@ -72,8 +76,8 @@ void ScriptedTable::Play(std::string_view command, Words& words) {
 }
 
 void ScriptedTable::SetClock(Words& words) {
-    const auto date = Split<3>(words.Word(), '-');
-    const auto time = Split<3>(words.Word(), ':');
+    const auto date = Split<3>(words.Word(), {4, 2, 2}, '-');
+    const auto time = Split<3>(words.Word(), {2, 2, 2}, ':');
     words.End();
     const DateTime moment{date[0], date[1], date[2], time[0], time[1], time[2]};
     if (!IsValid(moment)) throw BadLine("no such date and time");

@@ -51,8 +51,8 @@ double OutOfRange(const DecimalShape& shape) {
     std::ptrdiff_t firstPlace = wholeSize - place(shape.whole);
     if (firstPlace == 0) firstPlace = -place(shape.fraction);
     const bool downward = shape.exponent.starts_with('-');
-    const auto exponent = ParseWhole<std::int64_t>(shape.exponent);
-    const bool large = exponent ? firstPlace + *exponent > 0 : !downward;
+    const auto exponent = shape.exponent.empty() ? 0 : ParseWhole<std::int64_t>(shape.exponent);
+    const bool large = exponent ? *exponent > -firstPlace : !downward;
     return large ? std::numeric_limits<double>::infinity() : 0.0;
 }
 

@@ -79,8 +79,9 @@ void Engine::ReplayBack() {
 
 void Engine::ReplayAll() {
     if (!UpdateMenus().mReplay4) return;
+    const std::uint64_t serial = array_.Serial();
     std::shared_ptr(trans_)->UndoAll(1);
-    forwardOn_ = true;
+    if (array_.Serial() == serial) forwardOn_ = true;
 }
 
 void Engine::StopReplay() {

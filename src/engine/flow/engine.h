@@ -115,6 +115,7 @@ private:
 
     Desktop desktop_;
     Generator generator_;
+    Generator numbers_;  ///< draws game numbers; a deal under way must not be disturbed
     cArray array_;
     std::shared_ptr<cTrans> trans_;
     Playfield field_;

@@ -25,23 +25,47 @@ void Gestures::MouseDown(PicID id, double x, double y) {
     downY_ = RoundTo16(y);
     startLeft_ = RoundTo16(field_.table.Card(id).Left);
     startTop_ = RoundTo16(field_.table.Card(id).Top);
+    heldAt_ = field_.table.Card(id).Loc;
     CardDown(id);
     field_.data.PlaySound(Sound::CardDown);
 }
 
 void Gestures::MouseMove(PicID id, double x, double y) {
-    if (field_.data.GameRunning && dragging_) CardDrag(id, x, y);
+    if (field_.data.GameRunning && dragging_ && StillHeld(id)) CardDrag(id, x, y);
 }
 
 void Gestures::MouseUp(PicID id) {
     if (!field_.data.GameRunning || !dragging_) return;
     dragging_ = false;
-    CardDrop(id);
+    if (StillHeld(id)) {
+        CardDrop(id);
+    } else {
+        Settle(id);
+    }
     field_.data.PlaySound(Sound::CardUp);
 }
 
 void Gestures::StockClick() {
     if (field_.data.GameRunning && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
+}
+
+bool Gestures::StillHeld(PicID id) const {
+    const Place& at = field_.table.Card(id).Loc;
+    if (at != heldAt_) return false;
+    if (at.Cell == Cell::Res) return true;
+    const bool sameCount = field_.array.GetTop(at.Cell, at.Pile) == at.Pos + dragCount_;
+    return sameCount && (dragCount_ == 0 || IsRun(field_, id, dragCount_));
+}
+
+void Gestures::Settle(PicID id) {
+    const Place& at = field_.table.Card(id).Loc;
+    if (at != heldAt_) return;  // the move that took it away has placed it
+    for (std::int16_t pos = at.Pos; pos <= field_.array.GetTop(at.Cell, at.Pile); ++pos) {
+        const PicID card = field_.array.GetPicID(at.Cell, at.Pile, pos);
+        const Place place{at.Cell, at.Pile, pos};
+        field_.table.Card(card).MoveTo(field_.array.GetCordX(place), field_.array.GetCordY(place));
+        field_.table.BringToFront(card);
+    }
 }
 
 bool Gestures::IsTopCard(PicID id) const {

@@ -32,6 +32,11 @@ private:
     void CardDrop(PicID id);
     void CardBack(PicID id);
 
+    /// Whether the cards in the hand still lie on the board as they did at the press. An undo or a
+    /// replay step may have moved them, or others onto them, while the button was down.
+    bool StillHeld(PicID id) const;
+    /// Puts what the board holds from this card up where it belongs.
+    void Settle(PicID id);
     void PickUpStack(PicID id);
     void PressStockCard(PicID id);
     bool IsTopCard(PicID id) const;
@@ -46,6 +51,7 @@ private:
     std::int16_t downY_ = 0;
     std::int16_t startLeft_ = 0;
     std::int16_t startTop_ = 0;
+    Place heldAt_;                ///< the card's place at the press
     std::int16_t dragCount_ = 0;  ///< cards carried above the one taken
     bool dragging_ = false;
 };
