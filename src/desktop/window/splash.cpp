@@ -20,7 +20,7 @@ constexpr int kShownFor = 2000;  // milliseconds
 
 }  // namespace
 
-Splash::Splash() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+Splash::Splash() : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint) {
     setWindowTitle(ToQt(kProductName));
     setWindowIcon(ProgramIcon());
     setFixedSize(kSplashSize);
