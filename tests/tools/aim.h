@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+#include "engine/flow/engine.h"
+
+namespace varnello::findwin {
+
+/// Where a dropped card's left top corner comes to lie, in twips on the table.
+struct Aim {
+    std::int16_t left;
+    std::int16_t top;
+};
+
+/// An aim that puts a dropped card's centre on the target and, where that is possible, on nothing
+/// that is asked before it.
+Aim AimAt(const Engine& engine, const Place& target);
+
+}  // namespace varnello::findwin
