@@ -1,9 +1,11 @@
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
 
 #include "desktop/platform/settings_store.h"
 #include "desktop/platform/system.h"
+#include "desktop/reports/finish_dialog.h"
 #include "fixture.h"
 
 // The real window on a real X server: another program moves the mouse and presses the keys.
@@ -21,8 +23,43 @@ void xdotool(const QStringList& words) {
 
 QStringList MoveTo(const QWidget& widget, const QPoint& at) {
     const QPoint global = widget.mapToGlobal(at);
-    return {"mousemove", "--sync", QString::number(global.x()), QString::number(global.y())};
+    return {"mousemove", QString::number(global.x()), QString::number(global.y())};
 }
+
+/// Plays winning lines with the mouse alone.
+class MousePlayer {
+public:
+    MousePlayer(MainWindow& window) : engine_(window.engine()), view_(window.table()) {}
+
+    /// Presses the card where it shows and lets it go with its corner at these twips.
+    void Drop(PicID card, int left, int top) {
+        const QPoint grip = Grip(card);
+        const QPoint from = PointOn(card, grip);
+        const QPoint by((left - qRound(engine_.table.Card(card).Left)) / 15,
+                        (top - qRound(engine_.table.Card(card).Top)) / 15);
+        xdotool(MoveTo(view_, from) + QStringList{"mousedown", "1"} + MoveTo(view_, from + by / 2) +
+                MoveTo(view_, from + by) + QStringList{"mouseup", "1"});
+    }
+    void Click(PicID card) {
+        xdotool(MoveTo(view_, PointOn(card, Grip(card))) + QStringList{"click", "1"});
+    }
+
+private:
+    /// A point inside the card, in twips, that no other card covers.
+    QPoint Grip(PicID id) const {
+        const KesCard& card = engine_.table.Card(id);
+        for (const QPoint at : {QPoint(532, 720), QPoint(532, 120), QPoint(90, 720)}) {
+            if (engine_.table.CardAt(card.Left + at.x(), card.Top + at.y()) == id) return at;
+        }
+        return {532, 720};
+    }
+    QPoint PointOn(PicID id, const QPoint& grip) const {
+        return view_.CardCentre(id) + (grip - QPoint(532, 720)) / 15;
+    }
+
+    Engine& engine_;
+    TableView& view_;
+};
 
 }  // namespace
 
@@ -52,17 +89,11 @@ private Q_SLOTS:
         QCOMPARE(window.engine().data.CurGName(), "Freecell");
 
         // Two cards to the reserve by dragging, and one of them back by the menu's key.
-        TableView& table = window.table();
+        MousePlayer player(window);
         for (const std::int16_t pile : {std::int16_t{0}, std::int16_t{1}}) {
             const PicID card = window.engine().array().GetTopPicID(Cell::Home, pile);
             const KesEmpty& slot = window.engine().table.PicRes[static_cast<std::size_t>(pile)];
-            const QPoint from = table.CardCentre(card);
-            const KesCard& before = window.engine().table.Card(card);
-            const QPoint by((slot.Left - qRound(before.Left)) / 15,
-                            (slot.Top - qRound(before.Top)) / 15);
-            xdotool(MoveTo(table, from) + QStringList{"mousedown", "1"} +
-                    MoveTo(table, from + by / 2) + MoveTo(table, from + by) +
-                    QStringList{"mouseup", "1"});
+            player.Drop(card, slot.Left, slot.Top);
             QTRY_COMPARE(window.engine().table.Card(card).Loc, (Place{Cell::Res, pile, 0}));
         }
         QTRY_VERIFY(window.menu().mGame(1)->isEnabled());
@@ -81,6 +112,60 @@ private Q_SLOTS:
                      .match(line)
                      .hasMatch(),
                  qPrintable(line));
+    }
+
+    void WinsWholeGames_data() {
+        QTest::addColumn<QString>("line");
+        for (const QString& file : QDir(VARNELLO_WINS).entryList({"*.script"})) {
+            QTest::newRow(qPrintable(file.chopped(7))) << VARNELLO_WINS "/" + file;
+        }
+    }
+
+    void WinsWholeGames() {
+        if (QGuiApplication::platformName() != "xcb") QSKIP("needs an X server");
+        QFETCH(QString, line);
+        QTemporaryDir home;
+        MemoryStore settings;
+        SystemClock clock;
+        NoSounds sounds;
+        const std::filesystem::path data = home.path().toStdString() + "/data";
+        MainWindow window({settings, clock, sounds, data});
+        window.table().SetPaced(qEnvironmentVariableIsSet("VARNELLO_PACED"));
+        window.showMaximized();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        Engine& engine = window.engine();
+        MousePlayer player(window);
+        bool shown = false;
+        QTimer finish;
+        connect(&finish, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<FinishDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isActiveWindow() || std::exchange(shown, true)) return;
+            xdotool({"key", "Escape"});
+        });
+        finish.start(20);
+
+        for (const std::string& command : ReadLines(line.toStdString())) {
+            const QStringList words = QString::fromStdString(command).split(' ');
+            const auto number = [&](int i) { return words.value(i).toShort(); };
+            if (words[0] == "set")
+                engine.data.SetText(words[1].toStdString(), words[2].toStdString());
+            if (words[0] == "start") {
+                engine.StartGame(words.mid(2).join(' ').toStdString(),
+                                 *GameNumber::ParseBare(words[1].toStdString()));
+            }
+            const int before = engine.trans().TransTop();
+            if (words[0] == "drop") player.Drop(number(1), number(2), number(3));
+            if (words[0] == "press") player.Click(number(1));
+            if (words[0] == "drop" || words[0] == "press") {
+                QTRY_VERIFY2(engine.trans().TransTop() > before, command.c_str());
+            }
+        }
+        QTRY_VERIFY(shown);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        const auto lines = ReadLines(data / "Player1.sre");
+        QCOMPARE(lines.size(), std::size_t{1});
+        QVERIFY(lines[0].ends_with(",1"));
     }
 };
 

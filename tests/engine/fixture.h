@@ -1,0 +1,148 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "engine/definitions/catalogue.h"
+#include "engine/flow/engine.h"
+#include "script/looking.h"
+#include "script/stand_ins.h"
+
+namespace varnello::test {
+
+constexpr std::int16_t I16(int value) { return static_cast<std::int16_t>(value); }
+
+/// An empty folder that is gone with its owner.
+class TempFolder {
+public:
+    TempFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "varnello-XXXXXX").string();
+        if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
+        path_ = pattern;
+    }
+    ~TempFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+inline std::string ReadFile(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+inline void WriteFile(const std::filesystem::path& file, const std::string& bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+/// Counts what it is asked to show and lets a test act in a flight and where the
+/// event loop would run.
+class CountingSurface : public TableSurface {
+public:
+    void Repaint() override { ++repaints; }
+    void RepaintFlight() override {
+        ++flightSteps;
+        if (onFlight) onFlight();
+    }
+    void Yield() override {
+        if (onYield) onYield();
+    }
+    int repaints = 0;
+    int flightSteps = 0;
+    std::function<void()> onFlight;
+    std::function<void()> onYield;
+};
+
+/// A whole engine on the stand-ins of the scripted table, in a data folder of its own. What moves,
+/// sounds and dialogs do is recorded as the lines that a traced script prints.
+struct TestTable {
+    TestTable() {
+        sounds.on = true;
+        dialogs.finish = [this] {
+            script::PrintFinish(out, engine);
+            engine.LoadFinish();
+        };
+        engine.onMove = [this](const CardMove& move) { script::PrintMove(out, move); };
+        engine.InitMain();
+    }
+
+    /// The lines recorded since the last call.
+    std::string Heard() { return std::exchange(out, std::ostringstream()).str(); }
+    /// Piles and slots with all coordinates. The order from back to front isn't part of it.
+    std::string Board() const {
+        std::ostringstream board;
+        script::PrintBoard(board, engine);
+        const std::string text = board.str();
+        return text.substr(0, text.find("front:"));
+    }
+    void Play(const GameRow& row) {
+        engine.selectGame = [row](cGames& games, const std::string&) { SelectRow(games, row); };
+    }
+    void Start(const std::string& name, double number = 1) {
+        engine.StartGame(name, GameNumber::Number(number));
+    }
+    /// Press, drag so that the card stands at this place, and let go.
+    void Drop(PicID id, double left, double top) {
+        engine.gestures().MouseDown(id, 532, 720);
+        const KesCard& card = engine.table.Card(id);
+        engine.gestures().MouseMove(id, left - card.Left + 532, top - card.Top + 720);
+        engine.gestures().MouseUp(id);
+    }
+    void DropOn(PicID id, Cell cell, int pile) {
+        const int top = cell == Cell::Home ? engine.array().GetTop(cell, pile) : 0;
+        const Place place{cell, I16(pile), I16(top)};
+        Drop(id, engine.array().GetCordX(place), engine.array().GetCordY(place));
+    }
+    PicID Top(Cell cell, int pile) const { return engine.array().GetTopPicID(cell, pile); }
+    /// The card with this rank and pack-suit.
+    PicID Find(int num, int suitpile = 0) const {
+        for (PicID id = 0; id < engine.games.TotalCards(); ++id) {
+            const KesCard& card = engine.table.Card(id);
+            if (card.Num == num && card.Suitpile == suitpile) return id;
+        }
+        return kNoCard;
+    }
+    std::filesystem::path ScoreFile() const { return ScorePath(engine.data, "Player1"); }
+
+    TempFolder folder;
+    std::ostringstream out;
+    script::MemoryStore store;
+    script::ScriptClock clock;
+    CountingSurface surface;
+    script::PrintedSounds sounds{out};
+    script::PrintedDialogs dialogs{out};
+    Engine engine{{store, clock, surface, sounds, dialogs, folder.Path() / "data"}};
+};
+
+class EngineTest : public ::testing::Test, protected TestTable {};
+
+/// A game of the thirteen hearts, each on a pile of its own: the smallest game that can be won.
+inline GameRow Hearts() {
+    return {.Name = "Hearts",
+            .Ext = {.BaseX = 11900, .TotalCards = 13},
+            .Home = {.Piles = 13,
+                     .Order = OrderCode::DownColor,
+                     .Cards = 13,
+                     .StartY = 2000,
+                     .PileWidth = 1100,
+                     .PosWidth = 250},
+            .Goal = {.Piles = 4, .Order = OrderCode::UpSuit, .PileWidth = 1100},
+            .Res = {.Piles = 4, .StartX = 6000, .PileWidth = 1100}};
+}
+
+}  // namespace varnello::test

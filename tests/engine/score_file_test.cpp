@@ -1,0 +1,170 @@
+#include "engine/common/text_file.h"
+#include "fixture.h"
+
+// The files of finished games and the list of this run.
+namespace varnello::test {
+namespace {
+
+constexpr const char* kGood =
+    "\"11/18/2026 12:51:26 PM\",\"Avenue\",123456789012345,342,118,4711,1";
+
+TEST(ScoreLines, ReadBackAsWritten) {
+    const ScoreRecord records[] = {
+        {"11/18/2026 12:51:26 PM", "Baker's Game", GameNumber::Number(123456789012345), 342, 118,
+         -4711, 1, ""},
+        {"", "", GameNumber::Text("1e3"), 0, 0, 0, 0, ""},
+        {"no date", "Zodiac", GameNumber::Text(""), 2147483647, -2147483647 - 1, 0, -32768, ""}};
+    for (const ScoreRecord& record : records) {
+        EXPECT_EQ(ParseScoreLine(ScoreLine(record)), record) << ScoreLine(record);
+    }
+    EXPECT_EQ(ScoreLine(*ParseScoreLine(kGood)), kGood);
+}
+
+TEST(ScoreLines, KindOfTheNumberIsKept) {
+    EXPECT_FALSE(ParseScoreLine("\"d\",\"g\",7,1,1,1,1")->GameNo.IsText());
+    EXPECT_TRUE(ParseScoreLine("\"d\",\"g\",\"7\",1,1,1,1")->GameNo.IsText());
+}
+
+class Damaged : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(Damaged, LineIsNoRecord) { EXPECT_FALSE(ParseScoreLine(GetParam())); }
+
+INSTANTIATE_TEST_SUITE_P(
+    ScoreLines, Damaged,
+    ::testing::Values("", ",", "x", "\"d\",\"g\",7,1,1,1", "\"d\",\"g\",7,1,1,1,1,1",
+                      "\"d\",\"g\",7,1,1,1,1,", "d,\"g\",7,1,1,1,1", "\"d\",g,7,1,1,1,1",
+                      "\"d\",\"g\",7,\"1\",1,1,1", "\"d\",\"g\",7,1,1,1,\"1\"",
+                      "\"d\" ,\"g\",7,1,1,1,1", "\"d\",\"g\"x,7,1,1,1,1", "\"d,\"g\",7,1,1,1,1",
+                      "\"d\",\"g,7,1,1,1,1", "\"d\",\"g\",,1,1,1,1", "\"d\",\"g\",-7,1,1,1,1",
+                      "\"d\",\"g\",7.5,1,1,1,1", "\"d\",\"g\",1234567890123456,1,1,1,1",
+                      "\"d\",\"g\",7,1.5,1,1,1", "\"d\",\"g\",7,a,1,1,1", "\"d\",\"g\",7,,1,1,1",
+                      "\"d\",\"g\",7, 1,1,1,1", "\"d\",\"g\",7,1 ,1,1,1", "\"d\",\"g\",7,+1,1,1,1",
+                      "\"d\",\"g\",7,2147483648,1,1,1", "\"d\",\"g\",7,1,-2147483649,1,1",
+                      "\"d\",\"g\",7,1,1,1,32768", " \"d\",\"g\",7,1,1,1,1",
+                      "\"d\",\"g\",7,1,1,1,1\r", "\"d\",\"g\",7,1,1,1,1 "));
+
+class ScoreFiles : public EngineTest {
+protected:
+    void Book() {
+        Start("Freecell", 5);
+        engine.CloseGame();
+        Heard();
+    }
+    static constexpr const char* kBooked = "\"1/1/2026 12:00:00 PM\",\"Freecell\",5,0,0,0,0\r\n";
+};
+
+TEST_F(ScoreFiles, GrowAndKeepWhatTheyHold) {
+    Book();
+    EXPECT_EQ(ReadFile(ScoreFile()), kBooked);
+    const std::string odd = "damaged\n\r\n\"x\",\"y\",1,2,3,4,0\n";
+    WriteFile(ScoreFile(), odd);
+    Book();
+    EXPECT_EQ(ReadFile(ScoreFile()), odd + kBooked);
+}
+
+TEST_F(ScoreFiles, UnfinishedLineGetsItsEndFirst) {
+    for (const std::string& unfinished :
+         {std::string(kGood), std::string("x"), std::string(kGood) + "\r"}) {
+        WriteFile(ScoreFile(), unfinished);
+        Book();
+        EXPECT_EQ(ReadFile(ScoreFile()), unfinished + "\r\n" + kBooked);
+    }
+    WriteFile(ScoreFile(), "");
+    Book();
+    EXPECT_EQ(ReadFile(ScoreFile()), kBooked) << "an empty file has no line to end";
+}
+
+TEST_F(ScoreFiles, AreReadLineByLineWithoutTheDamagedOnes) {
+    engine.data.AddPlayer("Ada");
+    engine.data.AddPlayer("Nobody");
+    const std::string good = kGood;
+    WriteFile(ScoreFile(), good + "\r\n" + "damaged\r\n\r\n" + good + "\n" + good);
+    WriteFile(ScorePath(engine.data, "Ada"), "\"d\",\"Zodiac\",\"12\",1,2,-3,0\r\n");
+    WriteFile(ScorePath(engine.data, "Stranger"), good + "\r\n");
+    engine.score.OpenAllScore();
+    ASSERT_EQ(engine.score.ScoreTop(), 4);
+    EXPECT_EQ(engine.score.GetScore(3).Player, "Player1");
+    EXPECT_EQ(engine.score.GetScore(3).Score, 4711);
+    EXPECT_EQ(engine.score.GetScore(4).Player, "Ada");
+    EXPECT_EQ(engine.score.GetScore(4).Score, -3);
+    engine.score.OpenAllScore();
+    EXPECT_EQ(engine.score.ScoreTop(), 4) << "opening reads afresh";
+    engine.score.CloseScore();
+    EXPECT_EQ(engine.score.ScoreTop(), 0);
+}
+
+TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
+    std::filesystem::create_directory(ScoreFile());
+    Start("Freecell", 5);
+    Heard();
+    engine.CloseGame();
+    EXPECT_FALSE(engine.data.GameRunning);
+    EXPECT_EQ(engine.score.SesTop(), 1);
+    const std::string heard = Heard();
+    EXPECT_TRUE(heard.starts_with("message: ")) << heard;
+    EXPECT_NE(heard.find(ScoreFile().string()), std::string::npos) << heard;
+    engine.score.OpenAllScore();
+    EXPECT_EQ(engine.score.ScoreTop(), 0);
+}
+
+TEST_F(ScoreFiles, MissingFolderIsReportedAndTheWinStands) {
+    std::filesystem::remove_all(engine.data.AppDir());
+    engine.data.Set(keys::Autoplay, 0);
+    Play(Hearts());
+    Start("Hearts");
+    Heard();
+    engine.ToggleAutoplay();
+    EXPECT_FALSE(engine.data.GameRunning);
+    EXPECT_EQ(engine.score.SesSummary().Won, 1);
+    EXPECT_NE(Heard().find("message: "), std::string::npos);
+    engine.InitMain();
+    Book();
+    EXPECT_EQ(ReadFile(ScoreFile()), kBooked);
+}
+
+TEST_F(ScoreFiles, ListOfThisRunHoldsEveryEndedGame) {
+    EXPECT_EQ(engine.score.SesSummary(), ScoreSummary{});
+    Start("Freecell", 5);
+    engine.data.CurScore = -20;
+    engine.data.CurMoves = 7;
+    engine.data.CurTime = 100;
+    engine.EndGame(0);
+    engine.data.SetPlayer(2, "Ada", true);
+    engine.StartGame("Zodiac", GameNumber::Text("6"));
+    engine.EndGame(1);
+    ASSERT_EQ(engine.score.SesTop(), 2);
+    EXPECT_EQ(engine.score.GetSes(1),
+              (ScoreRecord{"", "Freecell", GameNumber::Number(5), 100, 7, -20, 0, "Player1"}));
+    EXPECT_EQ(engine.score.GetSes(2),
+              (ScoreRecord{"", "Zodiac", GameNumber::Text("6"), 100, 7, -20, 1, "Ada"}));
+    EXPECT_EQ(engine.score.SesSummary(), (ScoreSummary{2, 1, 1, -40, 14, 200}));
+}
+
+TEST(Summary, StaysAtTheLimitsAndCountsOnlyOneAsWon) {
+    ScoreSummary summary;
+    ScoreRecord record;
+    record.Score = -2147483647;
+    record.Time = 2147483647;
+    for (const int status : {1, 0, 2, -1, 1}) {
+        record.Status = I16(status);
+        summary.Add(record);
+    }
+    EXPECT_EQ(summary.Won, 2);
+    EXPECT_EQ(summary.Lost, 3);
+    EXPECT_EQ(summary.Time, 2147483647);
+    EXPECT_EQ(summary.Score, -2147483647 - 1);
+    record.Time = -5;
+    summary.Add(record);
+    EXPECT_EQ(summary.Time, 2147483642) << "each addition starts from the limit";
+}
+
+TEST(TextFiles, LinesEndWithLfOrCrLf) {
+    const TempFolder folder;
+    const auto file = folder.Path() / "lines";
+    EXPECT_TRUE(ReadLines(file).empty());
+    WriteFile(file, "a\r\nb\n\nc");
+    EXPECT_EQ(ReadLines(file), (std::vector<std::string>{"a", "b", "", "c"}));
+}
+
+}  // namespace
+}  // namespace varnello::test
