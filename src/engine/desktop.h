@@ -56,6 +56,10 @@ public:
     virtual ~Dialogs() = default;
     /// An information box with the product name as its title.
     virtual void Inform(const std::string& text) = 0;
+    /// A box with a stop sign and the product name as its title.
+    virtual void Refuse(const std::string& text) = 0;
+    /// A question with a stop sign; true for Yes.
+    virtual bool Ask(const std::string& text) = 0;
     /// The modal game won dialog. While it loads it calls `Engine::LoadFinish`.
     virtual void ShowFinish() = 0;
 };

@@ -36,6 +36,8 @@ public:
 class NoDialogs : public Dialogs {
 public:
     void Inform(const std::string&) override {}
+    void Refuse(const std::string&) override {}
+    bool Ask(const std::string&) override { return true; }
     void ShowFinish() override {}
 };
 

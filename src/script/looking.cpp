@@ -1,7 +1,10 @@
 #include "script/looking.h"
 
+#include <utility>
+
 #include "engine/common/rounding.h"
 #include "engine/common/text_file.h"
+#include "engine/movelog/history.h"
 
 namespace varnello::script {
 namespace {
@@ -97,6 +100,36 @@ void PrintScores(std::ostream& out, const Engine& engine) {
         const std::size_t comma = line.find(',');
         out << "scores: -" << (comma == std::string::npos ? "" : line.substr(comma)) << '\n';
     }
+}
+
+void PrintPlayers(std::ostream& out, const Engine& engine) {
+    const cData& data = engine.data;
+    out << "players: ";
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        const std::string name = data.GetPlayer(slot);
+        out << (slot > 1 ? "|" : "") << (name == data.CurPlayer() ? "*" : "") << name;
+    }
+    out << '\n';
+}
+
+void PrintHistory(std::ostream& out, const Engine& engine) {
+    if (!engine.data.GameRunning) return;
+    for (const HistoryRow& row : HistoryOf(engine.trans())) {
+        out << "history: " << row.Number << '|' << row.Source << '|' << row.Destination << '|'
+            << row.Cards;
+        if (row.Mark == HistoryMark::Last) out << "|*";
+        if (row.Mark == HistoryMark::Undone) out << "|-";
+        out << '\n';
+    }
+}
+
+void PrintFavorites(std::ostream& out, const Favorites& favorites, std::string_view game) {
+    out << "favorites: ";
+    const char* separator = "";
+    for (const std::string& number : favorites.NumbersOf(game)) {
+        out << std::exchange(separator, "|") << number;
+    }
+    out << '\n';
 }
 
 void PrintFinish(std::ostream& out, const Engine& engine) {

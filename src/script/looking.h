@@ -13,6 +13,9 @@ void PrintState(std::ostream& out, const Engine& engine);
 void PrintMarks(std::ostream& out, const Engine& engine);
 void PrintRecent(std::ostream& out, const Engine& engine);
 void PrintScores(std::ostream& out, const Engine& engine);
+void PrintPlayers(std::ostream& out, const Engine& engine);
+void PrintHistory(std::ostream& out, const Engine& engine);
+void PrintFavorites(std::ostream& out, const Favorites& favorites, std::string_view game);
 void PrintFinish(std::ostream& out, const Engine& engine);
 void PrintMove(std::ostream& out, const CardMove& move);
 

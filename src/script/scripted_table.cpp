@@ -3,7 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "engine/definitions/catalogue.h"
 #include "script/looking.h"
 
 namespace varnello::script {
@@ -12,12 +11,6 @@ namespace {
 // Where a scripted press grips a card, in twips inside it.
 constexpr double kGripX = 532;
 constexpr double kGripY = 720;
-
-std::string GameName(Words& words) {
-    std::string name = words.Rest();
-    if (!FindGame(name)) throw BadLine("no such game: " + name);
-    return name;
-}
 
 /// Numbers of fixed widths with a separator between them, as in a date.
 template <std::size_t N>
@@ -71,7 +64,7 @@ void ScriptedTable::Run(std::string_view line) {
 void ScriptedTable::Play(std::string_view command, Words& words) {
     const bool known = PlayClock(command, words) || PlayLife(command, words) ||
                        PlayGestures(command, words) || PlayCommands(command, words) ||
-                       Look(command, words);
+                       Choose(command, words) || Keep(command, words) || Look(command, words);
     if (!known) throw BadLine("unknown command: " + std::string(command));
 }
 
@@ -116,7 +109,7 @@ bool ScriptedTable::PlayLife(std::string_view command, Words& words) {
         SetPlayer(words.Rest());
     } else if (command == "start") {
         const GameNumber number = words.Number();
-        engine_.StartGame(GameName(words), number);
+        engine_.StartGame(words.Game(), number);
     } else if (command == "restart") {
         words.End();
         engine_.RestartGame();
@@ -214,13 +207,15 @@ bool ScriptedTable::PlayCommands(std::string_view command, Words& words) {
 
 bool ScriptedTable::Look(std::string_view command, Words& words) {
     using Print = void (*)(std::ostream&, const Engine&);
-    static constexpr std::array<std::pair<std::string_view, Print>, 6> kPrints{{
+    static constexpr std::array<std::pair<std::string_view, Print>, 8> kPrints{{
         {"board", PrintBoard},
         {"log", PrintLog},
         {"state", PrintState},
         {"marks", PrintMarks},
         {"recent", PrintRecent},
         {"scores", PrintScores},
+        {"players", PrintPlayers},
+        {"history", PrintHistory},
     }};
     for (const auto& [name, print] : kPrints) {
         if (command != name) continue;

@@ -26,9 +26,13 @@ private:
     bool PlayLife(std::string_view command, Words& words);
     bool PlayGestures(std::string_view command, Words& words);
     bool PlayCommands(std::string_view command, Words& words);
+    bool Choose(std::string_view command, Words& words);
+    bool Keep(std::string_view command, Words& words);
     bool Look(std::string_view command, Words& words);
 
     void SetClock(Words& words);
+    void PlayFavorite(Words& words);
+    void RenamePlayer(const std::string& names);
     void SetPlayer(const std::string& name);
     void Press(PicID id);
     void Drag(std::int16_t left, std::int16_t top);

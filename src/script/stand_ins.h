@@ -41,10 +41,15 @@ class PrintedDialogs : public Dialogs {
 public:
     explicit PrintedDialogs(std::ostream& out) : out_(out) {}
     void Inform(const std::string& text) override;
+    void Refuse(const std::string& text) override { Inform(text); }
+    bool Ask(const std::string& text) override;
+    bool answer = true;
     void ShowFinish() override { finish(); }
     std::function<void()> finish;
 
 private:
+    void Print(const char* what, std::string text);
+
     std::ostream& out_;
 };
 

@@ -1,5 +1,7 @@
 #include "script/words.h"
 
+#include "engine/definitions/catalogue.h"
+
 namespace varnello::script {
 
 std::string_view Words::Word() {
@@ -14,6 +16,12 @@ std::string Words::Rest() {
     std::string rest(rest_);
     rest_ = {};
     return rest;
+}
+
+std::string Words::Game() {
+    std::string name = Rest();
+    if (!FindGame(name)) throw BadLine("no such game: " + name);
+    return name;
 }
 
 PicID Words::Card() {

@@ -36,6 +36,8 @@ public:
     PicID Card();
     /// A game number: 1 to 15 bare digits, or a number in double quotes.
     GameNumber Number();
+    /// All that is left of the line, the name of a game.
+    std::string Game();
     /// To be called when a line has all its arguments.
     void End() const;
 

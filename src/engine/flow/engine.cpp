@@ -14,6 +14,7 @@ namespace varnello {
 Engine::Engine(const Desktop& desktop)
     : data(desktop.settings, desktop.sounds, desktop.dataFolder),
       score(data, desktop.clock),
+      favorites(data),
       selectGame([](cGames& record, const std::string& name) { SelectGame(record, name); }),
       desktop_(desktop),
       array_(games, table, generator_, desktop.surface, *this),
@@ -32,11 +33,15 @@ void Engine::InitMain() {
     if (data.CurPlayer().empty()) data.CurPlayer(data.GetPlayer(1));
 }
 
-GameNumber Engine::RandomGNo() {
+double Engine::NumberLimit(std::int16_t rangeIndex) {
+    if (rangeIndex < 1) return 0;
     double limit = 1;
-    const std::int16_t range = data.Get(keys::RangeIndex);
-    for (int i = 0; i < std::min<int>(range, 15); ++i) limit *= 10;
-    if (range == 0) limit = 0;
+    for (int i = 0; i < std::min<int>(rangeIndex, 15); ++i) limit *= 10;
+    return limit;
+}
+
+GameNumber Engine::RandomGNo() {
+    const double limit = NumberLimit(data.Get(keys::RangeIndex));
     numbers_.rtcRandomize(desktop_.clock.Timer());
     const double drawn = limit * static_cast<double>(numbers_.rtcRandomNext());
     return GameNumber::Number(std::max(std::floor(drawn), 1.0));

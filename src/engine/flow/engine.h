@@ -12,6 +12,7 @@
 #include "engine/flow/menus.h"
 #include "engine/movelog/log.h"
 #include "engine/rules/gestures.h"
+#include "engine/scores/favorites.h"
 #include "engine/scores/score_store.h"
 
 namespace varnello {
@@ -66,6 +67,28 @@ public:
     void ReplayAll();
     void StopReplay();
 
+    // Choosing a deal by its number. The text goes on exactly as it stands.
+    /// The highest number, 10 to the power of the range less 1; numbers lie strictly below it.
+    double MaxGNo() const;
+    /// "0 and " and the highest number with its digits in groups.
+    std::string RangeText() const;
+    /// Whether the text reads as a number between 0 and `MaxGNo`, tested as a 32-bit float.
+    bool IsChoosable(std::string_view text) const;
+    /// Starts the deal, or complains and returns false. `accepted` runs between the two.
+    bool ChooseNumber(const std::string& game, const std::string& text,
+                      const std::function<void()>& accepted = {});
+    /// Keeps the running game's deal as a favorite, and says so.
+    void AddFavorite();
+
+    // Players.
+    /// Whether there is room for one more; says so if not.
+    bool MayAddPlayer();
+    /// "OK" of the input box: adds a player, or renames `oldName` unless that is empty. False, with
+    /// the reason told, when the box has to stay open.
+    bool EnterPlayer(const std::string& oldName, const std::string& newName);
+    /// Deletes a player other than the current one, with all results, after a question.
+    bool DeletePlayer(const std::string& name);
+
     // Timer ticks.
     /// `tmrForward`: one step of a forward replay. Nothing without a running game.
     void ForwardTick();
@@ -90,6 +113,7 @@ public:
     cGames games;
     Table table;
     cScore score;
+    Favorites favorites;
     Gestures& gestures() { return gestures_; }
     const cArray& array() const { return array_; }
     const cTrans& trans() const { return *trans_; }
@@ -111,6 +135,9 @@ private:
     };
 
     void Begin(const GameRequest& request);
+    bool RenamePlayer(const std::string& oldName, const std::string& newName);
+    /// 10 to the power of a range index; 0 for an index below 1.
+    static double NumberLimit(std::int16_t rangeIndex);
     void EndReplay();
 
     Desktop desktop_;

@@ -62,7 +62,8 @@ bool cData::SetText(std::string_view key, std::string_view value) {
 }
 
 std::string cData::LastGName() const {
-    return store_.Read(kDataSection, kLastGNameKey, GetGName(1));
+    const std::string name = store_.Read(kDataSection, kLastGNameKey, {});
+    return FindGame(name) ? name : GetGName(1);
 }
 
 void cData::LastGName(std::string_view name) { store_.Write(kDataSection, kLastGNameKey, name); }

@@ -17,6 +17,7 @@ inline constexpr std::string_view kProductName = "Varnello";
 inline constexpr std::string_view kVersion = "3.0";
 inline constexpr std::int16_t kMaxPlayers = 20;
 inline constexpr std::int16_t kMaxRecent = 5;
+inline constexpr std::size_t kMaxPlayerName = 25;  ///< characters
 
 /// A whole-number key of the settings section "Data" and its default.
 struct NumberKey {
@@ -68,7 +69,7 @@ public:
     /// Writes a key of section "Data" as text. False, with nothing written, for an unknown key, a
     /// value that isn't a whole number, or a last game that is no game.
     bool SetText(std::string_view key, std::string_view value);
-    /// The game last started; the first of the catalogue when none was.
+    /// The game last started; the first of the catalogue when none was, or none that exists.
     std::string LastGName() const;
     void LastGName(std::string_view name);
     /// 32-bit colour: red + 256 x green + 65536 x blue.
@@ -127,6 +128,9 @@ private:
 
 /// A name that a player may have: not blank, and fit to be a file's name everywhere.
 bool IsPlayerName(std::string_view name);
+
+/// The name cut to the characters that a player's name may have.
+std::string CutPlayerName(std::string_view name);
 
 /// `AppDir` + name + ".sre".
 std::filesystem::path ScorePath(const cData& data, std::string_view player);

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "engine/common/number_text.h"
+#include "engine/common/utf8.h"
 #include "engine/settings/data.h"
 
 namespace varnello {
@@ -56,6 +57,10 @@ bool IsPlayerName(std::string_view name) {
         return c == '/' || c == '\\' || (static_cast<unsigned char>(c) < 0x20) || c == 0x7F;
     };
     return !Trim(name).empty() && std::none_of(name.begin(), name.end(), unfit);
+}
+
+std::string CutPlayerName(std::string_view name) {
+    return std::string(FirstCharacters(name, kMaxPlayerName));
 }
 
 std::filesystem::path ScorePath(const cData& data, std::string_view player) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace varnello {
+
+/// The first `count` characters of a UTF-8 text; characters, not bytes.
+constexpr std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const bool continues = (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80;
+        if (!continues && count-- == 0) break;
+        ++end;
+    }
+    return text.substr(0, end);
+}
+
+}  // namespace varnello

@@ -1,0 +1,36 @@
+#include "engine/movelog/history.h"
+
+#include "engine/common/rounding.h"
+
+namespace varnello {
+namespace {
+
+std::string PlaceText(const Place& place) {
+    std::string text(ConvertCell(place.Cell));
+    text.append(" (Pile ").append(std::to_string(place.Pile + 1));
+    text.append(", Card ").append(std::to_string(place.Pos + 1));
+    return text.append(")");
+}
+
+HistoryMark MarkOf(int index, int last) {
+    if (index == last) return HistoryMark::Last;
+    return index > last ? HistoryMark::Undone : HistoryMark::Applied;
+}
+
+}  // namespace
+
+std::vector<HistoryRow> HistoryOf(const cTrans& log) {
+    std::vector<HistoryRow> rows;
+    for (int i = 1; i <= log.TransTop(); ++i) {
+        const auto index = static_cast<std::int16_t>(i);
+        const TransRec& record = log.Record(index);
+        rows.push_back({.Number = index,
+                        .Source = PlaceText(record.From),
+                        .Destination = PlaceText(record.To),
+                        .Cards = Saturate16(record.mCards + 1),
+                        .Mark = MarkOf(i, log.GetTransID())});
+    }
+    return rows;
+}
+
+}  // namespace varnello

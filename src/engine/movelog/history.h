@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/movelog/log.h"
+
+namespace varnello {
+
+enum class HistoryMark { Applied, Last, Undone };
+
+/// A record of the log as people read it; piles and cards count from 1.
+struct HistoryRow {
+    std::int16_t Number = 0;
+    std::string Source;
+    std::string Destination;
+    std::int16_t Cards = 0;
+    HistoryMark Mark = HistoryMark::Applied;
+};
+
+/// The whole log, the undone moves included.
+std::vector<HistoryRow> HistoryOf(const cTrans& log);
+
+}  // namespace varnello

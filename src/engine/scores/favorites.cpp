@@ -1,0 +1,53 @@
+#include "engine/scores/favorites.h"
+
+#include <limits>
+#include <optional>
+#include <system_error>
+
+#include "engine/common/csv.h"
+#include "engine/common/text_file.h"
+#include "engine/scores/record.h"
+
+namespace varnello {
+namespace {
+
+constexpr std::size_t kMaxFavorites = std::numeric_limits<std::int16_t>::max();
+
+std::optional<FavRecord> ParseFavLine(std::string_view line) {
+    const auto fields = SplitFields(line);
+    if (!fields || fields->size() != 2 || !fields->front().quoted) return std::nullopt;
+    const auto number = ReadGameNumber(fields->back());
+    if (!number) return std::nullopt;
+    return FavRecord{std::string(fields->front().text), *number};
+}
+
+}  // namespace
+
+std::filesystem::path Favorites::File() const { return data_.AppDir() / "fav.dat"; }
+
+void Favorites::OpenFav() {
+    list_.clear();
+    for (const std::string& line : ReadLines(File())) {
+        if (list_.size() == kMaxFavorites) return;
+        if (auto record = ParseFavLine(line)) list_.push_back(std::move(*record));
+    }
+}
+
+bool Favorites::AddFav(const std::string& game, const GameNumber& number) const {
+    return AppendLine(File(), QuotedField(game) + ',' + number.Field());
+}
+
+void Favorites::ClearFav() const {
+    std::error_code ignored;  // what can't be deleted shows again in the list
+    std::filesystem::remove(File(), ignored);
+}
+
+std::vector<std::string> Favorites::NumbersOf(std::string_view game) const {
+    std::vector<std::string> numbers;
+    for (const FavRecord& record : list_) {
+        if (record.Game == game) numbers.push_back(record.GameNo.Shown());
+    }
+    return numbers;
+}
+
+}  // namespace varnello
