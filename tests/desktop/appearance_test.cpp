@@ -25,7 +25,7 @@ private Q_SLOTS:
 
     void AFadeHas256EqualBands() {
         QImage surface(40, 1024, QImage::Format_RGB32);
-        SetBG(surface,
+        SetBG(surface, 1,
               {.bgIndex = 1000, .fade = true, .customColor = 200 + 256 * 101 + 65536 * 255});
         for (int band = 0; band < 256; ++band) {
             const auto channel = [&](double start) {
@@ -52,9 +52,59 @@ private Q_SLOTS:
         QFETCH(int, bgIndex);
         QFETCH(QColor, colour);
         QImage surface(3, 300, QImage::Format_RGB32);
-        SetBG(surface, {.bgIndex = bgIndex, .fade = false});
+        SetBG(surface, 1, {.bgIndex = bgIndex, .fade = false});
         QCOMPARE(surface.pixelColor(1, 0), colour);
         QCOMPARE(surface.pixelColor(2, 299), colour);
+    }
+
+    void TilesAreSeamlessAndCutAtTheEdge_data() {
+        QTest::addColumn<QSize>("size");
+        const std::pair<QList<int>, QSize> tiles[] = {
+            {{1, 2, 3, 4, 5, 12, 13, 31}, {128, 128}},
+            {{11, 34, 72, 73}, {96, 96}},
+            {{21, 23, 24, 25}, {80, 80}},
+            {{22, 32, 33, 43, 65}, {125, 125}},
+            {{41}, {125, 129}},
+            {{42, 51, 52, 53, 54, 55}, {100, 100}},
+            {{61, 63, 64}, {100, 140}},
+            {{62}, {180, 120}},
+            {{71}, {200, 109}},
+        };
+        int count = 0;
+        for (const auto& [ids, size] : tiles) {
+            for (const int id : ids) {
+                QTest::newRow(qPrintable(QString::number(id))) << size;
+                ++count;
+            }
+        }
+        QCOMPARE(count, 33);
+    }
+
+    void TilesAreSeamlessAndCutAtTheEdge() {
+        QFETCH(QSize, size);
+        const int id = QByteArray(QTest::currentDataTag()).toInt();
+        QCOMPARE(QImage(QStringLiteral(":/tiles/%1.png").arg(id)).size(), size);
+        QCOMPARE(QImage(QStringLiteral(":/tiles/%1@2x.png").arg(id)).size(), size * 2);
+        QImage surface(size * 2 + QSize(7, 5), QImage::Format_RGB32);
+        QVERIFY(TileFill(surface, 1, id));
+        // How much neighbouring rows or columns differ: across the seam not more than elsewhere.
+        const auto difference = [&](QPoint step, int at) {
+            double sum = 0;
+            const bool across = step.x() != 0;
+            const int length = across ? size.height() : size.width();
+            for (int i = 0; i < length; ++i) {
+                const QPoint here = across ? QPoint(at, i) : QPoint(i, at);
+                sum += std::abs(qGray(surface.pixel(here)) - qGray(surface.pixel(here + step)));
+            }
+            return sum / length;
+        };
+        for (const QPoint step : {QPoint(1, 0), QPoint(0, 1)}) {
+            const int extent = step.x() ? size.width() : size.height();
+            double most = 0;
+            for (int at = 0; at + 1 < extent; ++at) most = std::max(most, difference(step, at));
+            QVERIFY(difference(step, extent - 1) <= most * 1.05);
+        }
+        QCOMPARE(surface.pixel(0, 0), surface.pixel(size.width() * 2, size.height() * 2));
     }
 
     void PicturesAreReadyMadeAtTheUsualRatios() {

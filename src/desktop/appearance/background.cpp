@@ -26,8 +26,27 @@ BackgroundChoice StoredBackground(const cData& data) {
             .customColor = data.CustomColor()};
 }
 
-void SetBG(QImage& surface, const BackgroundChoice& choice) {
+void SetBG(QImage& surface, double ratio, const BackgroundChoice& choice) {
+    if (choice.bgIndex < kCustomBackground && TileFill(surface, ratio, choice.bgIndex)) return;
     FadeFill(surface, ColourOf(choice), choice.fade);
+}
+
+bool TileFill(QImage& surface, double ratio, int id) {
+    const QImage plain(QStringLiteral(":/tiles/%1.png").arg(id));
+    if (plain.isNull()) return false;
+    QImage tile = plain;
+    if (ratio > 1) {
+        tile = QImage(QStringLiteral(":/tiles/%1@2x.png").arg(id));
+        if (ratio != 2) {
+            tile = tile.scaled((QSizeF(plain.size()) * ratio).toSize(), Qt::IgnoreAspectRatio,
+                               Qt::SmoothTransformation);
+        }
+    }
+    QPainter painter(&surface);
+    for (int y = 0; y < surface.height(); y += tile.height()) {
+        for (int x = 0; x < surface.width(); x += tile.width()) painter.drawImage(x, y, tile);
+    }
+    return true;
 }
 
 void FadeFill(QImage& surface, const QColor& colour, bool fade) {

@@ -15,8 +15,13 @@ struct BackgroundChoice {
 
 BackgroundChoice StoredBackground(const cData& data);
 
-/// Paints the whole surface with a background. A number that names none paints the default one.
-void SetBG(QImage& surface, const BackgroundChoice& choice);
+/// Paints the whole surface, of this device pixel ratio, with a background: below 1000 a tile, 1000
+/// the custom colour, above it a named colour. A number that names none paints the default one.
+void SetBG(QImage& surface, double ratio, const BackgroundChoice& choice);
+
+/// Paints tiles from the top left corner on, row by row; the last ones are cut by the edge. False,
+/// with nothing painted, for a number that names no tile.
+bool TileFill(QImage& surface, double ratio, int id);
 
 /// Paints 256 bands of equal height from `colour` at the top to black at the bottom, or all of them
 /// in `colour`.

@@ -22,7 +22,7 @@ QRect RectOnTable(const CardPictures& pictures, double leftTwips, double topTwip
 
 QImage BackgroundPicture(double ratio, const BackgroundChoice& choice) {
     QImage picture(TableSize(ratio), QImage::Format_RGB32);
-    SetBG(picture, choice);
+    SetBG(picture, ratio, choice);
     return picture;
 }
 
