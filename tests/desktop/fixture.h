@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 #include <vector>
 
@@ -10,6 +11,20 @@
 #include "engine/common/text_file.h"
 #include "engine/definitions/catalogue.h"
 #include "engine/null_desktop.h"
+
+/// Does something as soon as a modal window of this kind is open.
+template <typename Dialog>
+void WhenOpen(std::function<void(Dialog&)> act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        timer->deleteLater();
+        timer->stop();
+        act(*dialog);
+    });
+    timer->start(5);
+}
 
 /// A main window whose settings live in memory and whose clock the test moves; score files go to a
 /// folder of the test's own. Flights aren't paced.

@@ -23,20 +23,6 @@ void SelectAlmostWon(cGames& games, const std::string&) {
     SelectRow(games, row);
 }
 
-/// Does something as soon as a modal window of this kind is open.
-template <typename Dialog>
-void WhenOpen(std::function<void(Dialog&)> act) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (!dialog) return;
-        timer->deleteLater();
-        timer->stop();
-        act(*dialog);
-    });
-    timer->start(5);
-}
-
 QToolButton* ButtonCalled(QWidget& parent, const QString& text) {
     for (auto* button : parent.findChildren<QToolButton*>()) {
         if (button->text() == text) return button;

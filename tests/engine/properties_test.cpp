@@ -139,6 +139,9 @@ TEST(HeldCards, LeaveTheBoardWholeInRandomPlay) {
             if (!engine.data.GameRunning) table.Start("A Game", act + 1);
             ASSERT_EQ(BoardFault(engine.array(), engine.table, engine.games), "")
                 << play.name << ", act " << act;
+            if (play.openTableau) {
+                ASSERT_EQ(PictureFault(engine), "") << play.name << ", act " << act;
+            }
             table.Heard();
         }
     }

@@ -7,6 +7,7 @@
 
 #include "desktop/appearance/icons.h"
 #include "desktop/appearance/preview.h"
+#include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
 
 namespace varnello {
@@ -60,7 +61,7 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     all->addWidget(tree_, 1);
     all->addLayout(right);
 
-    FillPlayers();
+    FillPlayers(*players_, engine_.data);
     FillTree();
     connect(tree_, &QTreeWidget::currentItemChanged, this, &SelectDialog::ShowGame);
     connect(tree_, &QTreeWidget::itemDoubleClicked, this, &SelectDialog::Play);
@@ -69,16 +70,6 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     ShowGame();
     play_->setDefault(true);
     tree_->setFocus();
-}
-
-void SelectDialog::FillPlayers() {
-    const cData& data = engine_.data;
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        players_->addItem(SmallIcon(QStringLiteral("player")), ToQt(data.GetPlayer(slot)));
-    }
-    const int current =
-        players_->findText(ToQt(data.CurPlayer()), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    players_->setCurrentIndex(std::max(current, 0));
 }
 
 void SelectDialog::FillTree() {

@@ -23,7 +23,6 @@ public:
     QPushButton* play() const { return play_; }
 
 private:
-    void FillPlayers();
     void FillTree();
     void ShowGame();
     void Play();

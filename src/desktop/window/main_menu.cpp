@@ -49,7 +49,8 @@ void MainMenu::BuildFile() {
     Add(menu, file_, 5, QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
         [this] { engine_.CloseGame(); });
     menu->addSeparator();
-    AddDisabled(menu, file_, 7, QStringLiteral("Select a Number"), Qt::SHIFT | Qt::Key_F2);
+    Add(menu, file_, 7, QStringLiteral("Select a Number"), Qt::SHIFT | Qt::Key_F2,
+        [this] { shell_.ShowChoose(); });
     menu->addSeparator();
     QMenu* recent = menu->addMenu(QStringLiteral("Recent Games"));
     file_[9] = recent->menuAction();
@@ -97,10 +98,13 @@ void MainMenu::BuildReplay() {
 
 void MainMenu::BuildFavorites() {
     QMenu* menu = bar_.addMenu(QStringLiteral("Favorites"));
-    AddDisabled(menu, fav_, 1, QStringLiteral("&Add to Favorites"), Qt::CTRL | Qt::Key_A);
-    AddDisabled(menu, fav_, 2, QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F);
+    Add(menu, fav_, 1, QStringLiteral("&Add to Favorites"), Qt::CTRL | Qt::Key_A,
+        [this] { engine_.AddFavorite(); });
+    Add(menu, fav_, 2, QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
+        [this] { shell_.ShowOrganizeFavorites(); });
     menu->addSeparator();
-    AddDisabled(menu, fav_, 4, QStringLiteral("&Play from Favorites"), Qt::CTRL | Qt::Key_P);
+    Add(menu, fav_, 4, QStringLiteral("&Play from Favorites"), Qt::CTRL | Qt::Key_P,
+        [this] { shell_.ShowPlayFavorites(); });
 }
 
 void MainMenu::BuildStatistics() {
@@ -117,9 +121,11 @@ void MainMenu::BuildTools() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Tools"));
     AddDisabled(menu, tools_, 1, QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U);
     menu->addSeparator();
-    AddDisabled(menu, tools_, 3, QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L);
+    Add(menu, tools_, 3, QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L,
+        [this] { shell_.ShowPlayers(); });
     menu->addSeparator();
-    AddDisabled(menu, tools_, 5, QStringLiteral("&History"), Qt::CTRL | Qt::Key_H);
+    Add(menu, tools_, 5, QStringLiteral("&History"), Qt::CTRL | Qt::Key_H,
+        [this] { shell_.ShowHistory(); });
 }
 
 void MainMenu::BuildHelp() {
@@ -152,6 +158,8 @@ void MainMenu::UpdateMenus() {
     const MenuMarks marks = engine_.UpdateMenus();
     file_[4]->setEnabled(marks.mFile4);
     file_[5]->setEnabled(marks.mFile5);
+    fav_[1]->setEnabled(marks.mFav1);
+    tools_[5]->setEnabled(marks.mTools5);
     game_[1]->setEnabled(marks.mGame1);
     game_[2]->setEnabled(marks.mGame2);
     game_[4]->setEnabled(marks.mGame4);

@@ -14,6 +14,11 @@ class Shell {
 public:
     virtual ~Shell() = default;
     virtual void ShowSelect() = 0;
+    virtual void ShowChoose() = 0;
+    virtual void ShowOrganizeFavorites() = 0;
+    virtual void ShowPlayFavorites() = 0;
+    virtual void ShowPlayers() = 0;
+    virtual void ShowHistory() = 0;
     virtual void LayoutMain() = 0;
     /// The screen follows the engine: shows what a command has changed.
     virtual void Refresh() = 0;

@@ -6,8 +6,12 @@
 #include <QScreen>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/choosers/favorites_dialogs.h"
+#include "desktop/choosers/number_dialog.h"
+#include "desktop/choosers/players_dialog.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
+#include "desktop/reports/history_dialog.h"
 
 namespace varnello {
 namespace {
@@ -132,10 +136,35 @@ void MainWindow::ShowSelect() {
     select_->exec();
 }
 
+void MainWindow::ShowChoose() { NumberDialog(*engine_, this).exec(); }
+
+void MainWindow::ShowOrganizeFavorites() { OrganizeFavoritesDialog(*engine_, this).exec(); }
+
+void MainWindow::ShowPlayFavorites() { PlayFavoriteDialog(*engine_, this).exec(); }
+
+void MainWindow::ShowPlayers() { PlayersDialog(*engine_, this).exec(); }
+
+void MainWindow::ShowHistory() {
+    if (engine_->data.GameRunning) HistoryDialog(engine_->trans(), this).exec();
+}
+
+QWidget* MainWindow::Front() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : this;
+}
+
 void MainWindow::Inform(const std::string& text) {
-    QMessageBox::information(
-        QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this,
-        ToQt(kProductName), ToQt(text));
+    QMessageBox::information(Front(), ToQt(kProductName), ToQt(text));
+}
+
+void MainWindow::Refuse(const std::string& text) {
+    QMessageBox::critical(Front(), ToQt(kProductName), ToQt(text));
+}
+
+bool MainWindow::Ask(const std::string& text) {
+    const auto answer = QMessageBox::critical(Front(), ToQt(kProductName), ToQt(text),
+                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return answer == QMessageBox::Yes;
 }
 
 void MainWindow::ShowFinish() {

@@ -40,6 +40,8 @@ public:
     SelectDialog* select() const { return select_; }
 
     void Inform(const std::string& text) override;
+    void Refuse(const std::string& text) override;
+    bool Ask(const std::string& text) override;
     void ShowFinish() override;
 
 Q_SIGNALS:
@@ -52,8 +54,15 @@ protected:
 
 private:
     void ShowSelect() override;
+    void ShowChoose() override;
+    void ShowOrganizeFavorites() override;
+    void ShowPlayFavorites() override;
+    void ShowPlayers() override;
+    void ShowHistory() override;
     void LayoutMain() override;
     void Refresh() override;
+    /// The window that a message box belongs to.
+    QWidget* Front();
     void OnMainTimer();
     void OnReplayTimers();
     void StartTimers();

@@ -1,0 +1,138 @@
+#include "desktop/choosers/favorites_dialogs.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/choosers/lists.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr QSize kPlaySize(300, 300);
+constexpr QSize kOrganizeSize(460, 400);
+constexpr int kClearPoll = 500;  // milliseconds
+
+/// Shows the favorites of one game.
+void FillNumbers(QListWidget& list, const Favorites& favorites, const QString& game) {
+    const QIcon icon = SmallIcon(QStringLiteral("favorite"));
+    list.setUpdatesEnabled(false);
+    list.clear();
+    for (const std::string& number : favorites.NumbersOf(game.toStdString())) {
+        new QListWidgetItem(icon, ToQt(number), &list);
+    }
+    list.setUpdatesEnabled(true);
+}
+
+QListWidget* NumbersList() {
+    auto* list = new QListWidget;
+    list->setUniformItemSizes(true);
+    list->setAccessibleName(QStringLiteral("Game Number"));
+    return list;
+}
+
+}  // namespace
+
+PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      imcGames_(new QComboBox),
+      lvFav_(NumbersList()),
+      cmdPlay_(new QPushButton(QStringLiteral("Play"))) {
+    setWindowTitle(QStringLiteral("Play from Favorites"));
+    engine_.favorites.OpenFav();
+    FillGames(*imcGames_, engine_.data, engine_.data.CurGName());
+    imcGames_->setAccessibleName(QStringLiteral("Game"));
+
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(cmdPlay_, QDialogButtonBox::AcceptRole);
+    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(imcGames_);
+    all->addWidget(lvFav_);
+    all->addWidget(buttons);
+    resize(kPlaySize);
+
+    cmdPlay_->setDefault(true);
+    connect(imcGames_, &QComboBox::currentIndexChanged, this, &PlayFavoriteDialog::UpdateLVFav);
+    connect(lvFav_, &QListWidget::itemDoubleClicked, this, &PlayFavoriteDialog::Play);
+    connect(buttons, &QDialogButtonBox::accepted, this, &PlayFavoriteDialog::Play);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    UpdateLVFav();
+}
+
+void PlayFavoriteDialog::UpdateLVFav() {
+    FillNumbers(*lvFav_, engine_.favorites, imcGames_->currentText());
+    lvFav_->setCurrentRow(lvFav_->count() - 1);  // the newest one
+    cmdPlay_->setEnabled(lvFav_->count() > 0);
+}
+
+void PlayFavoriteDialog::Play() {
+    const QListWidgetItem* item = lvFav_->currentItem();
+    if (!item) return;
+    hide();
+    engine_.StartGame(imcGames_->currentText().toStdString(),
+                      GameNumber::Text(item->text().toStdString()));
+    accept();
+}
+
+OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      lvGames_(new QListWidget),
+      lvFav_(NumbersList()),
+      cmdClear_(new QPushButton(QStringLiteral("Clear Favorites"))) {
+    setWindowTitle(QStringLiteral("Organize Favorites"));
+    engine_.favorites.OpenFav();
+    const cData& data = engine_.data;
+    lvGames_->setAccessibleName(QStringLiteral("Game"));
+    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
+        auto* item = new QListWidgetItem(SmallIcon(QStringLiteral("game")), ToQt(data.GetGName(id)),
+                                         lvGames_);
+        if (id == 1 || item->text() == ToQt(data.CurGName())) lvGames_->setCurrentItem(item);
+    }
+
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(cmdClear_, QDialogButtonBox::ResetRole);
+    auto* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    auto* left = new QVBoxLayout;
+    left->addWidget(new QLabel(QStringLiteral("Game")));
+    left->addWidget(lvGames_);
+    auto* right = new QVBoxLayout;
+    right->addWidget(new QLabel(QStringLiteral("Game Number")));
+    right->addWidget(lvFav_);
+    auto* lists = new QHBoxLayout;
+    lists->addLayout(left);
+    lists->addLayout(right);
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(lists);
+    all->addWidget(buttons);
+    resize(kOrganizeSize);
+
+    close->setDefault(true);
+    cmdClear_->setEnabled(engine_.favorites.FavTop() >= 1);
+    connect(lvGames_, &QListWidget::currentRowChanged, this, &OrganizeFavoritesDialog::UpdateLVFav);
+    connect(cmdClear_, &QPushButton::clicked, this, &OrganizeFavoritesDialog::Clear);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(&Timer1_, &QTimer::timeout, this,
+            [this] { cmdClear_->setEnabled(engine_.favorites.FavTop() >= 1); });
+    Timer1_.start(kClearPoll);
+    UpdateLVFav();
+    lvGames_->setFocus();
+}
+
+void OrganizeFavoritesDialog::UpdateLVFav() {
+    const QListWidgetItem* game = lvGames_->currentItem();
+    FillNumbers(*lvFav_, engine_.favorites, game ? game->text() : QString());
+}
+
+void OrganizeFavoritesDialog::Clear() {
+    engine_.favorites.ClearFav();
+    engine_.favorites.OpenFav();
+    UpdateLVFav();
+}
+
+}  // namespace varnello

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+#include "engine/flow/engine.h"
+
+namespace varnello {
+
+/// `frmPlayFav`: starts a favorite deal.
+class PlayFavoriteDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    PlayFavoriteDialog(Engine& engine, QWidget* parent);
+
+    QListWidget* numbers() const { return lvFav_; }
+    QPushButton* play() const { return cmdPlay_; }
+
+private:
+    void UpdateLVFav();
+    void Play();
+
+    Engine& engine_;
+    QComboBox* imcGames_;
+    QListWidget* lvFav_;
+    QPushButton* cmdPlay_;
+};
+
+/// `frmOrgFav`: shows all favorites by game, and can clear them.
+class OrganizeFavoritesDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    OrganizeFavoritesDialog(Engine& engine, QWidget* parent);
+
+    QListWidget* games() const { return lvGames_; }
+    QListWidget* numbers() const { return lvFav_; }
+    QPushButton* clear() const { return cmdClear_; }
+
+private:
+    void UpdateLVFav();
+    void Clear();
+
+    Engine& engine_;
+    QListWidget* lvGames_;
+    QListWidget* lvFav_;
+    QPushButton* cmdClear_;
+    QTimer Timer1_;
+};
+
+}  // namespace varnello

@@ -1,0 +1,32 @@
+#include "desktop/choosers/lists.h"
+
+#include <algorithm>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+void Select(QComboBox& combo, const std::string& text) {
+    combo.setCurrentIndex(
+        std::max(combo.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive), 0));
+}
+
+}  // namespace
+
+void FillGames(QComboBox& combo, const cData& data, const std::string& selected) {
+    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
+        combo.addItem(SmallIcon(QStringLiteral("game")), ToQt(data.GetGName(id)));
+    }
+    Select(combo, selected);
+}
+
+void FillPlayers(QComboBox& combo, const cData& data) {
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        combo.addItem(SmallIcon(QStringLiteral("player")), ToQt(data.GetPlayer(slot)));
+    }
+    Select(combo, data.CurPlayer());
+}
+
+}  // namespace varnello

@@ -1,0 +1,65 @@
+#include "desktop/choosers/number_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/choosers/lists.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+
+NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      games_(new QComboBox),
+      players_(new QComboBox),
+      number_(new QLineEdit) {
+    setWindowTitle(QStringLiteral("Select a Game Number"));
+    FillGames(*games_, engine_.data, engine_.data.CurGName());
+    FillPlayers(*players_, engine_.data);
+    number_->setText(ToQt(engine_.RandomGNo().Shown()));
+
+    auto* form = new QFormLayout;
+    form->addRow(QStringLiteral("&Game"), games_);
+    form->addRow(QStringLiteral("P&layer"), players_);
+    auto* name = new QLabel(QStringLiteral("Enter a Game Number between"));
+    auto* range = new QLabel(ToQt(engine_.RangeText()));
+    name->setBuddy(number_);
+    number_->setAccessibleName(name->text() + ' ' + range->text());
+
+    auto* buttons = new QDialogButtonBox;
+    auto* select = buttons->addButton(QStringLiteral("Select"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(form);
+    all->addSpacing(8);
+    all->addWidget(name);
+    all->addWidget(range);
+    all->addWidget(number_);
+    all->addSpacing(8);
+    all->addStretch();
+    all->addWidget(buttons);
+    setMinimumWidth(320);
+
+    select->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NumberDialog::Select);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    number_->selectAll();
+    number_->setFocus();
+}
+
+void NumberDialog::Select() {
+    const bool started = engine_.ChooseNumber(
+        games_->currentText().toStdString(), number_->text().toStdString(), [this] {
+            hide();
+            engine_.data.CurPlayer(players_->currentText().toStdString());
+        });
+    if (started) return accept();
+    number_->setText(QStringLiteral("0"));
+    number_->setFocus();
+}
+
+}  // namespace varnello

@@ -1,0 +1,135 @@
+#include "desktop/choosers/players_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr QSize kPlayersSize(400, 300);
+constexpr int kNameWidth = 300;
+
+}  // namespace
+
+PlayersDialog::PlayersDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent), engine_(engine), lvPlayer_(new QListWidget) {
+    setWindowTitle(QStringLiteral("Players"));
+    lvPlayer_->setAccessibleName(QStringLiteral("Players"));
+
+    auto* column = new QVBoxLayout;
+    const auto button = [&](const char* text, void (PlayersDialog::*act)()) {
+        auto* made = new QPushButton(QString::fromLatin1(text));
+        connect(made, &QPushButton::clicked, this, act);
+        column->addWidget(made);
+        return made;
+    };
+    button("New", &PlayersDialog::Add);
+    button("Edit", &PlayersDialog::Edit);
+    cmdDelete_ = button("Delete", &PlayersDialog::Delete);
+    column->addStretch();
+    button("Select", &PlayersDialog::Select)->setDefault(true);
+    button("Cancel", &QDialog::reject);
+    auto* all = new QHBoxLayout(this);
+    all->addWidget(lvPlayer_);
+    all->addLayout(column);
+    resize(kPlayersSize);
+
+    connect(lvPlayer_, &QListWidget::currentRowChanged, this, &PlayersDialog::UpdateDelete);
+    connect(lvPlayer_, &QListWidget::itemDoubleClicked, this, &PlayersDialog::Select);
+    RefreshList();
+    lvPlayer_->setFocus();
+}
+
+QPushButton* PlayersDialog::Button(const QString& text) const {
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        if (button->text() == text) return button;
+    }
+    return nullptr;
+}
+
+void PlayersDialog::RefreshList() {
+    lvPlayer_->clear();
+    const cData& data = engine_.data;
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        const std::string name = data.GetPlayer(slot);
+        auto* item =
+            new QListWidgetItem(SmallIcon(QStringLiteral("player")), ToQt(name), lvPlayer_);
+        if (name == data.CurPlayer()) lvPlayer_->setCurrentItem(item);
+    }
+    if (!lvPlayer_->currentItem()) lvPlayer_->setCurrentRow(0);
+    UpdateDelete();
+}
+
+std::string PlayersDialog::SelectedName() const {
+    const QListWidgetItem* item = lvPlayer_->currentItem();
+    return item ? item->text().toStdString() : std::string();
+}
+
+void PlayersDialog::UpdateDelete() {
+    const std::string name = SelectedName();
+    cmdDelete_->setEnabled(!name.empty() && name != engine_.data.CurPlayer());
+}
+
+void PlayersDialog::AskInput(const QString& label, const std::string& name) {
+    NameDialog(engine_, label, name, this).exec();
+    RefreshList();
+}
+
+void PlayersDialog::Add() {
+    if (engine_.MayAddPlayer()) AskInput(QStringLiteral("Add Player"), {});
+}
+
+void PlayersDialog::Edit() {
+    const std::string name = SelectedName();
+    if (!name.empty()) AskInput(QStringLiteral("Edit Player"), name);
+}
+
+void PlayersDialog::Delete() {
+    if (engine_.DeletePlayer(SelectedName())) RefreshList();
+}
+
+void PlayersDialog::Select() {
+    const std::string name = SelectedName();
+    if (name.empty()) return;
+    engine_.data.CurPlayer(name);
+    accept();
+}
+
+NameDialog::NameDialog(Engine& engine, const QString& label, const std::string& name,
+                       QWidget* parent)
+    : QDialog(parent), engine_(engine), oldName_(name), Text1_(new QLineEdit(ToQt(name))) {
+    setWindowTitle(ToQt(kProductName));
+    auto* caption = new QLabel(label);
+    caption->setBuddy(Text1_);
+    Text1_->setAccessibleName(label);
+    // Characters, and not the units of the toolkit's texts, are what counts.
+    connect(Text1_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        const QString cut = ToQt(CutPlayerName(text.toStdString()));
+        if (cut != text) Text1_->setText(cut);
+    });
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(caption);
+    all->addWidget(Text1_);
+    all->addSpacing(6);
+    all->addWidget(buttons);
+    setMinimumWidth(kNameWidth);
+
+    connect(buttons, &QDialogButtonBox::accepted, this, &NameDialog::Ok);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    Text1_->selectAll();
+    Text1_->setFocus();
+}
+
+void NameDialog::Ok() {
+    if (engine_.EnterPlayer(oldName_, Text1_->text().toStdString())) return accept();
+    Text1_->setFocus();
+}
+
+}  // namespace varnello

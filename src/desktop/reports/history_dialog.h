@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDialog>
+#include <QTreeWidget>
+
+#include "engine/movelog/log.h"
+
+namespace varnello {
+
+/// `frmHistory`: the whole log of the running game as it is when the window opens.
+class HistoryDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    HistoryDialog(const cTrans& log, QWidget* parent);
+
+    QTreeWidget* list() const { return lvHistory_; }
+
+private:
+    QTreeWidget* lvHistory_;
+};
+
+}  // namespace varnello

@@ -1,0 +1,156 @@
+#include <QMessageBox>
+#include <fstream>
+
+#include "desktop/choosers/favorites_dialogs.h"
+#include "desktop/choosers/number_dialog.h"
+#include "desktop/choosers/players_dialog.h"
+#include "desktop/reports/history_dialog.h"
+#include "fixture.h"
+
+// The dialogs that choose deals and keep players, worked by their own controls.
+using namespace varnello;
+
+namespace {
+
+void AcceptBox(QString& text) {
+    WhenOpen<QMessageBox>([&text](QMessageBox& box) {
+        text = box.text();
+        box.button(box.button(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok)->click();
+    });
+}
+
+QStringList Texts(const QListWidget* list) {
+    QStringList texts;
+    for (int i = 0; i < list->count(); ++i) texts << list->item(i)->text();
+    return texts;
+}
+
+}  // namespace
+
+class ChoosersTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ANumberIsTypedOverAndComplainedAbout() {
+        WindowFixture fixture;
+        fixture.engine().data.Set(keys::RangeIndex, 5);
+        QString told;
+        WhenOpen<NumberDialog>([&](NumberDialog& dialog) {
+            QVERIFY(dialog.number()->hasSelectedText());
+            QTest::keyClicks(dialog.number(), "99999");
+            AcceptBox(told);
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QCOMPARE(dialog.number()->text(), "0");
+            dialog.number()->selectAll();
+            QTest::keyClicks(dialog.number(), "1e3");
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        fixture.window.menu().mFile(7)->trigger();
+        QCOMPARE(told, "Please enter a number between 0 and 99,999");
+        QVERIFY(fixture.engine().data.GameRunning);
+        QCOMPARE(fixture.engine().data.CurGNo.Shown(), "1e3");
+        QCOMPARE(fixture.engine().data.CurGName(), "Avenue");
+    }
+
+    void FavoritesArePlayedAndCleared() {
+        WindowFixture fixture;
+        fixture.Start("Penguin", 5);
+        QString told;
+        AcceptBox(told);
+        QTRY_VERIFY(fixture.window.menu().mFav(1)->isEnabled());
+        fixture.window.menu().mFav(1)->trigger();
+        QCOMPARE(told, "Game <5> Successfully Added to Favorites Under <Penguin> Folder");
+        fixture.engine().favorites.AddFav("Penguin", GameNumber::Text("77"));
+        WhenOpen<PlayFavoriteDialog>([](PlayFavoriteDialog& dialog) {
+            QCOMPARE(Texts(dialog.numbers()), (QStringList{"5", "77"}));
+            QCOMPARE(dialog.numbers()->currentRow(), 1);
+            QTest::mouseClick(dialog.play(), Qt::LeftButton);
+        });
+        fixture.window.menu().mFav(4)->trigger();
+        QCOMPARE(fixture.engine().data.CurGNo.Field(), "\"77\"");
+        WhenOpen<OrganizeFavoritesDialog>([](OrganizeFavoritesDialog& dialog) {
+            QCOMPARE(dialog.games()->currentItem()->text(), "Penguin");
+            QTest::mouseClick(dialog.clear(), Qt::LeftButton);
+            QCOMPARE(dialog.numbers()->count(), 0);
+            QTRY_VERIFY(!dialog.clear()->isEnabled());
+            dialog.reject();
+        });
+        fixture.window.menu().mFav(2)->trigger();
+        WhenOpen<PlayFavoriteDialog>([](PlayFavoriteDialog& dialog) {
+            QVERIFY(!dialog.play()->isEnabled());
+            dialog.reject();
+        });
+        fixture.window.menu().mFav(4)->trigger();
+    }
+
+    void AFullFavoritesFileOpensAtOnce() {
+        WindowFixture fixture;
+        std::ofstream file(fixture.Folder() + "/fav.dat");
+        for (int i = 0; i < 32767; ++i) file << "\"Avenue\"," << i << "\r\n";
+        file.close();
+        PlayFavoriteDialog dialog(fixture.engine(), &fixture.window);
+        QCOMPARE(dialog.numbers()->count(), 32767);
+        QCOMPARE(dialog.numbers()->currentItem()->text(), "32766");
+    }
+
+    void PlayersComeAndGo() {
+        WindowFixture fixture;
+        QString told;
+        WhenOpen<PlayersDialog>([&](PlayersDialog& dialog) {
+            QVERIFY(!dialog.Button("Delete")->isEnabled());
+            WhenOpen<NameDialog>([&](NameDialog& input) {
+                QCOMPARE(input.windowTitle(), "Varnello");
+                AcceptBox(told);
+                QTest::keyClick(&input, Qt::Key_Return);
+                QCOMPARE(told, "Please Enter a Valid Name");
+                QTest::keyClicks(input.name(), "Annabel Anastasia Alexandra");
+                QCOMPARE(input.name()->text(), "Annabel Anastasia Alexand");
+                QTest::keyClick(&input, Qt::Key_Return);
+            });
+            QTest::mouseClick(dialog.Button("New"), Qt::LeftButton);
+            QCOMPARE(Texts(dialog.players()),
+                     (QStringList{"Player1", "Annabel Anastasia Alexand"}));
+            QCOMPARE(dialog.players()->currentRow(), 0);
+            WhenOpen<NameDialog>([](NameDialog& input) {
+                QVERIFY(input.name()->hasSelectedText());
+                QTest::keyClicks(input.name(), "Zo");
+                QTest::keyClick(&input, Qt::Key_Return);
+            });
+            QTest::mouseClick(dialog.Button("Edit"), Qt::LeftButton);
+            QCOMPARE(fixture.engine().data.CurPlayer(), "Zo");
+            dialog.players()->setCurrentRow(1);
+            QVERIFY(dialog.Button("Delete")->isEnabled());
+            AcceptBox(told);
+            QTest::mouseClick(dialog.Button("Delete"), Qt::LeftButton);
+            QCOMPARE(told, "Are you sure you want to delete this player");
+            QCOMPARE(Texts(dialog.players()), QStringList{"Zo"});
+            QVERIFY(!dialog.Button("Delete")->isEnabled());
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        fixture.window.menu().mTools(3)->trigger();
+        QCOMPARE(fixture.engine().data.TotalPlayers(), 1);
+    }
+
+    void TheHistoryTellsAppliedAndUndoneMoves() {
+        WindowFixture fixture;
+        fixture.StartWithoutAutoplay("Freecell");
+        for (const std::int16_t pile : {std::int16_t{0}, std::int16_t{1}, std::int16_t{2}}) {
+            const KesEmpty& slot = fixture.engine().table.PicRes[static_cast<std::size_t>(pile)];
+            fixture.Drag(fixture.Top(Cell::Home, pile),
+                         fixture.At(slot.Left + 532, slot.Top + 720));
+        }
+        fixture.engine().Undo();
+        HistoryDialog dialog(fixture.engine().trans(), &fixture.window);
+        const QTreeWidget* list = dialog.list();
+        QCOMPARE(list->topLevelItemCount(), 3);
+        QCOMPARE(list->topLevelItem(0)->text(1), "Tableau (Pile 1, Card 7)");
+        QCOMPARE(list->topLevelItem(0)->text(2), "Reserve (Pile 1, Card 1)");
+        QVERIFY(!list->topLevelItem(0)->font(1).bold());
+        QVERIFY(list->topLevelItem(1)->font(1).bold());
+        QCOMPARE(list->topLevelItem(1)->foreground(3).color(), QColor(128, 0, 0));
+        QCOMPARE(list->topLevelItem(2)->foreground(0).color(), QColor(128, 128, 0));
+    }
+};
+
+QTEST_MAIN(ChoosersTest)
+#include "choosers_test.moc"
