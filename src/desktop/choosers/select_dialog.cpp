@@ -39,7 +39,6 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     name_->setFont(large);
     preview_->setFixedSize(kPreviewSize);
     preview_->setAccessibleName(QStringLiteral("Preview of the game"));
-    rules_->setEnabled(false);
 
     auto* frame = new QGroupBox;
     auto* inFrame = new QVBoxLayout(frame);
@@ -66,6 +65,7 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     connect(tree_, &QTreeWidget::currentItemChanged, this, &SelectDialog::ShowGame);
     connect(tree_, &QTreeWidget::itemDoubleClicked, this, &SelectDialog::Play);
     connect(play_, &QPushButton::clicked, this, &SelectDialog::Play);
+    connect(rules_, &QPushButton::clicked, this, [this] { Q_EMIT RulesAsked(SelectedGame()); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     ShowGame();
     play_->setDefault(true);
@@ -96,6 +96,7 @@ QString SelectDialog::SelectedGame() const {
 void SelectDialog::ShowGame() {
     const QString game = SelectedGame();
     play_->setEnabled(!game.isEmpty());
+    rules_->setEnabled(!game.isEmpty());
     if (game.isEmpty()) return;  // the root keeps the last game's name and picture
     name_->setText(game);
     preview_->setPixmap(PreviewOf(game.toStdString(), devicePixelRatioF()));

@@ -130,10 +130,11 @@ void MainMenu::BuildTools() {
 
 void MainMenu::BuildHelp() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Help"));
-    AddDisabled(menu, help_, 1, QStringLiteral("Rules"), Qt::Key_F1);
-    AddDisabled(menu, help_, 2, QStringLiteral("Contents"));
+    Add(menu, help_, 1, QStringLiteral("Rules"), Qt::Key_F1, [this] { shell_.ShowHelp(); });
+    Add(menu, help_, 2, QStringLiteral("Contents"), {}, [this] { shell_.ShowContents(); });
     menu->addSeparator();
-    AddDisabled(menu, help_, 4, QStringLiteral("About %1...").arg(ToQt(kProductName)));
+    Add(menu, help_, 4, QStringLiteral("About %1...").arg(ToQt(kProductName)), {},
+        [this] { shell_.ShowAbout(); });
 }
 
 void MainMenu::BuildCounters() {

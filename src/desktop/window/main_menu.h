@@ -19,6 +19,10 @@ public:
     virtual void ShowPlayFavorites() = 0;
     virtual void ShowPlayers() = 0;
     virtual void ShowHistory() = 0;
+    /// The rules of the running game, or the contents without one.
+    virtual void ShowHelp() = 0;
+    virtual void ShowContents() = 0;
+    virtual void ShowAbout() = 0;
     virtual void LayoutMain() = 0;
     /// The screen follows the engine: shows what a command has changed.
     virtual void Refresh() = 0;

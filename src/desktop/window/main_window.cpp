@@ -9,6 +9,8 @@
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/choosers/players_dialog.h"
+#include "desktop/help/about_dialog.h"
+#include "desktop/help/pages.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/reports/history_dialog.h"
@@ -123,8 +125,15 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     Q_EMIT Closed();
 }
 
+SelectDialog* MainWindow::MakeSelect() {
+    auto* dialog = new SelectDialog(*engine_, this);
+    connect(dialog, &SelectDialog::RulesAsked, this,
+            [this](const QString& game) { ShowRules(game.toStdString()); });
+    return dialog;
+}
+
 void MainWindow::ShowSelectModeless() {
-    if (!select_) select_ = new SelectDialog(*engine_, this);
+    if (!select_) select_ = MakeSelect();
     select_->show();
     select_->raise();
     select_->activateWindow();
@@ -132,7 +141,8 @@ void MainWindow::ShowSelectModeless() {
 
 void MainWindow::ShowSelect() {
     if (select_) return ShowSelectModeless();
-    select_ = new SelectDialog(*engine_, this);
+    select_ = MakeSelect();
+    select_->setWindowModality(Qt::WindowModal);  // so that the rules can be read beside it
     select_->exec();
 }
 
@@ -147,6 +157,20 @@ void MainWindow::ShowPlayers() { PlayersDialog(*engine_, this).exec(); }
 void MainWindow::ShowHistory() {
     if (engine_->data.GameRunning) HistoryDialog(engine_->trans(), this).exec();
 }
+
+void MainWindow::ShowHelp() {
+    ShowRules(engine_->data.GameRunning ? engine_->data.CurGName() : std::string());
+}
+
+void MainWindow::ShowRules(const std::string& game) {
+    if (!help_) {
+        help_ = new HelpWindow(nullptr);
+        connect(this, &QObject::destroyed, help_, &QObject::deleteLater);
+    }
+    help_->ShowPage(PageNameOf(engine_->data.GetGameID(game)));
+}
+
+void MainWindow::ShowAbout() { AboutDialog(this).exec(); }
 
 QWidget* MainWindow::Front() {
     QWidget* modal = QApplication::activeModalWidget();

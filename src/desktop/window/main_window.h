@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "desktop/choosers/select_dialog.h"
+#include "desktop/help/help_window.h"
 #include "desktop/window/main_menu.h"
 #include "desktop/window/table_view.h"
 #include "desktop/window/toolbar.h"
@@ -59,8 +60,14 @@ private:
     void ShowPlayFavorites() override;
     void ShowPlayers() override;
     void ShowHistory() override;
+    void ShowHelp() override;
+    void ShowContents() override { ShowRules({}); }
+    void ShowAbout() override;
+    /// The help page of a game; the contents for a name that is no game's.
+    void ShowRules(const std::string& game);
     void LayoutMain() override;
     void Refresh() override;
+    SelectDialog* MakeSelect();
     /// The window that a message box belongs to.
     QWidget* Front();
     void OnMainTimer();
@@ -72,6 +79,7 @@ private:
     std::unique_ptr<MainMenu> menu_;
     Toolbar* toolbar_ = nullptr;
     QPointer<SelectDialog> select_;
+    HelpWindow* help_ = nullptr;  ///< made on first use
     QTimer tmrMain_;
     QTimer tmrTime_;
     QTimer tmrForward_;
