@@ -58,8 +58,9 @@ public:
     virtual void Inform(const std::string& text) = 0;
     /// A box with a stop sign and the product name as its title.
     virtual void Refuse(const std::string& text) = 0;
-    /// A question with a stop sign; true for Yes.
+    /// A question with a question mark, or with a stop sign where something is lost; true for Yes.
     virtual bool Ask(const std::string& text) = 0;
+    virtual bool AskToStop(const std::string& text) = 0;
     /// The modal game won dialog. While it loads it calls `Engine::LoadFinish`.
     virtual void ShowFinish() = 0;
 };

@@ -38,6 +38,7 @@ public:
     void Inform(const std::string&) override {}
     void Refuse(const std::string&) override {}
     bool Ask(const std::string&) override { return true; }
+    bool AskToStop(const std::string&) override { return true; }
     void ShowFinish() override {}
 };
 

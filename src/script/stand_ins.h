@@ -43,6 +43,7 @@ public:
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override { Inform(text); }
     bool Ask(const std::string& text) override;
+    bool AskToStop(const std::string& text) override { return Ask(text); }
     bool answer = true;
     void ShowFinish() override { finish(); }
     std::function<void()> finish;

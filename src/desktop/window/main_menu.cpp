@@ -119,7 +119,8 @@ void MainMenu::BuildStatistics() {
 
 void MainMenu::BuildTools() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Tools"));
-    AddDisabled(menu, tools_, 1, QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U);
+    Add(menu, tools_, 1, QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U,
+        [this] { shell_.ShowCustomize(); });
     menu->addSeparator();
     Add(menu, tools_, 3, QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L,
         [this] { shell_.ShowPlayers(); });

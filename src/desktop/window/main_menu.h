@@ -17,6 +17,7 @@ public:
     virtual void ShowChoose() = 0;
     virtual void ShowOrganizeFavorites() = 0;
     virtual void ShowPlayFavorites() = 0;
+    virtual void ShowCustomize() = 0;
     virtual void ShowPlayers() = 0;
     virtual void ShowHistory() = 0;
     /// The rules of the running game, or the contents without one.

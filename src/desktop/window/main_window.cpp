@@ -9,6 +9,7 @@
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/choosers/players_dialog.h"
+#include "desktop/customize/customize_dialog.h"
 #include "desktop/help/about_dialog.h"
 #include "desktop/help/pages.h"
 #include "desktop/platform/text.h"
@@ -186,9 +187,19 @@ void MainWindow::Refuse(const std::string& text) {
 }
 
 bool MainWindow::Ask(const std::string& text) {
+    return QMessageBox::question(Front(), ToQt(kProductName), ToQt(text)) == QMessageBox::Yes;
+}
+
+bool MainWindow::AskToStop(const std::string& text) {
     const auto answer = QMessageBox::critical(Front(), ToQt(kProductName), ToQt(text),
                                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     return answer == QMessageBox::Yes;
+}
+
+void MainWindow::ShowCustomize() {
+    if (CustomizeDialog(*engine_, this).exec() != QDialog::Accepted) return;
+    table_->RefreshBackground();
+    table_->RefreshDecks();
 }
 
 void MainWindow::ShowFinish() {

@@ -43,6 +43,7 @@ public:
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override;
     bool Ask(const std::string& text) override;
+    bool AskToStop(const std::string& text) override;
     void ShowFinish() override;
 
 Q_SIGNALS:
@@ -60,6 +61,7 @@ private:
     void ShowPlayFavorites() override;
     void ShowPlayers() override;
     void ShowHistory() override;
+    void ShowCustomize() override;
     void ShowHelp() override;
     void ShowContents() override { ShowRules({}); }
     void ShowAbout() override;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <system_error>
 
 #include "engine/common/number_text.h"
 #include "engine/flow/engine.h"
@@ -21,7 +22,13 @@ std::string Grouped(double number) {
 
 double Engine::MaxGNo() const { return std::max(NumberLimit(data.Get(keys::RangeIndex)), 1.0) - 1; }
 
-std::string Engine::RangeText() const { return "0 and " + Grouped(MaxGNo()); }
+std::string HighestNumberText(std::int16_t rangeIndex) {
+    return Grouped(std::max(NumberLimit(rangeIndex), 1.0) - 1);
+}
+
+std::string Engine::RangeText() const {
+    return "0 and " + HighestNumberText(data.Get(keys::RangeIndex));
+}
 
 bool Engine::IsChoosable(std::string_view text) const {
     const auto value = ParseDecimal(text);
@@ -40,6 +47,27 @@ bool Engine::ChooseNumber(const std::string& game, const std::string& text,
     if (accepted) accepted();
     StartGame(game, GameNumber::Text(text));
     return true;
+}
+
+bool Engine::ClearRecentGames() {
+    if (!desktop_.dialogs.Ask("Are you sure you want to clear the Recent Games List ?")) {
+        return false;
+    }
+    data.ClearRecent();
+    desktop_.dialogs.Inform("Recent Games List has been Cleared.");
+    return true;
+}
+
+void Engine::ClearStat() {
+    if (!desktop_.dialogs.Ask("Are you sure you want to clear the Statistics, High Score and Log "
+                              "for all Players and all Games ?")) {
+        return;
+    }
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        std::error_code ignored;
+        std::filesystem::remove(ScorePath(data, data.GetPlayer(slot)), ignored);
+    }
+    desktop_.dialogs.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
 void Engine::AddFavorite() {

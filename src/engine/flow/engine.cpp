@@ -33,7 +33,7 @@ void Engine::InitMain() {
     if (data.CurPlayer().empty()) data.CurPlayer(data.GetPlayer(1));
 }
 
-double Engine::NumberLimit(std::int16_t rangeIndex) {
+double NumberLimit(std::int16_t rangeIndex) {
     if (rangeIndex < 1) return 0;
     double limit = 1;
     for (int i = 0; i < std::min<int>(rangeIndex, 15); ++i) limit *= 10;

@@ -26,6 +26,12 @@ struct FinishFigures {
     std::int32_t Time = 0;  ///< seconds
 };
 
+/// 10 to the power of a range index, at most 15; 0 for an index below 1.
+double NumberLimit(std::int16_t rangeIndex);
+
+/// The highest number of a range, 10 to its power less 1, with its digits in groups of three.
+std::string HighestNumberText(std::int16_t rangeIndex);
+
 /// The whole program without a window: the objects that live as long as the process, the life of a
 /// game, and the commands that menus, toolbar and scripts give.
 class Engine : private MoveFollower {
@@ -79,6 +85,11 @@ public:
                       const std::function<void()>& accepted = {});
     /// Keeps the running game's deal as a favorite, and says so.
     void AddFavorite();
+
+    /// Empties the recent list after a question; false when it was kept.
+    bool ClearRecentGames();
+    /// Deletes the score files of all listed players after a question. The list of this run stays.
+    void ClearStat();
 
     // Players.
     /// Whether there is room for one more; says so if not.
@@ -136,8 +147,6 @@ private:
 
     void Begin(const GameRequest& request);
     bool RenamePlayer(const std::string& oldName, const std::string& newName);
-    /// 10 to the power of a range index; 0 for an index below 1.
-    static double NumberLimit(std::int16_t rangeIndex);
     void EndReplay();
 
     Desktop desktop_;

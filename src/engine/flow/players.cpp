@@ -51,7 +51,7 @@ bool Engine::RenamePlayer(const std::string& oldName, const std::string& newName
 
 bool Engine::DeletePlayer(const std::string& name) {
     if (name == data.CurPlayer()) return false;
-    if (!desktop_.dialogs.Ask("Are you sure you want to delete this player")) return false;
+    if (!desktop_.dialogs.AskToStop("Are you sure you want to delete this player")) return false;
     const std::int16_t slot = data.FindPlayer(name);
     if (slot == 0) return false;
     data.SetPlayer(slot, {}, false);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace varnello {
+
+/// A group of backgrounds or decks, as the trees of the customize dialog show them. The items are
+/// called by the group's name, " 0" and their place in it.
+struct LookGroup {
+    QString name;
+    QList<int> ids;
+};
+
+/// The tiled backgrounds.
+const QList<LookGroup>& TileGroups();
+/// The deck backs.
+const QList<LookGroup>& DeckGroups();
+
+/// Named colours that are offered; a few more paint correctly if stored by hand.
+inline constexpr int kFirstOfferedColour = 1001;
+inline constexpr int kLastOfferedColour = 1020;
+
+}  // namespace varnello

@@ -1,0 +1,223 @@
+#include "desktop/customize/customize_dialog.h"
+
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/colours.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr QSize kClient(470, 380);  // a little more than the classic 450 by 353
+
+struct SpeedRow {
+    const char* caption;
+    NumberKey key;
+};
+constexpr std::array kSpeeds{SpeedRow{"Card Moving Speed", keys::CardSpeed},
+                             SpeedRow{"Undo/Redo Speed", keys::UndoSpeed},
+                             SpeedRow{"Undoall/Redoall Speed", keys::UndoallSpeed},
+                             SpeedRow{"Replay Speed", keys::ReplaySpeed}};
+constexpr int kSlowest = 50;  // the stored value of a slider's left end; the right end is 0
+
+struct SoundRow {
+    const char* text;
+    NumberKey key;
+};
+constexpr std::array kSounds{SoundRow{"Initial Shuffle", keys::SoundStart},
+                             SoundRow{"Card Up", keys::SoundCardUp},
+                             SoundRow{"Card Down", keys::SoundCardDown},
+                             SoundRow{"Autoplay Move", keys::SoundAutoPlay},
+                             SoundRow{"Undo", keys::SoundUndo},
+                             SoundRow{"Redo", keys::SoundRedo},
+                             SoundRow{"Game Won", keys::SoundWin}};
+
+struct CounterRow {
+    const char* text;
+    NumberKey key;
+};
+constexpr std::array kCounters{CounterRow{"Show Time", keys::ShowTime},
+                               CounterRow{"Show Score", keys::ShowScore},
+                               CounterRow{"Show Moves", keys::ShowMoves}};
+
+std::int32_t ValueOfColour(const QColor& colour) {
+    return colour.red() + 256 * colour.green() + 65536 * colour.blue();
+}
+
+}  // namespace
+
+CustomizeDialog::CustomizeDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      background_(StoredBackground(engine.data)),
+      deck_(engine.data.Get(keys::DeckIndex)),
+      SSTab1_(new QTabWidget),
+      tvBGround_(new QTreeWidget),
+      Picture1_(new LookPreview(QStringLiteral("Background preview"))),
+      chkFade_(new QCheckBox(QStringLiteral("&Fade Background"))),
+      cmdCustom_(new QPushButton(QStringLiteral("Colors.."))),
+      tvDeck_(new QTreeWidget),
+      picDeckBack_(new LookPreview(QStringLiteral("Deck preview"))),
+      lvSound_(new QListWidget) {
+    setWindowTitle(QStringLiteral("Customize"));
+    SSTab1_->addTab(MakeGeneral(), QStringLiteral("General"));
+    SSTab1_->addTab(MakeBackground(), QStringLiteral("Background"));
+    SSTab1_->addTab(MakeDecks(), QStringLiteral("Decks"));
+    SSTab1_->addTab(MakeAnimationAndSounds(), QStringLiteral("Animation && Sounds"));
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(SSTab1_);
+    all->addWidget(buttons);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+    SSTab1_->setMinimumSize(kClient);
+    connect(buttons, &QDialogButtonBox::accepted, this, &CustomizeDialog::Ok);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void CustomizeDialog::PaintPreviews() {
+    Picture1_->ShowBackground(background_);
+    picDeckBack_->ShowBackground(background_);
+}
+
+void CustomizeDialog::ChooseColor() {
+    const QColor now = ColourOfValue(background_.customColor).value_or(Qt::black);
+    const QColor chosen = QColorDialog::getColor(now, this);
+    if (!chosen.isValid()) return;
+    background_.customColor = ValueOfColour(chosen);
+    PaintPreviews();
+}
+
+void CustomizeDialog::ClearRecent() {
+    if (!engine_.ClearRecentGames()) return;
+    cmdClearRecent_->setEnabled(false);
+}
+
+void CustomizeDialog::Ok() {
+    cData& data = engine_.data;
+    for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
+        data.Set(kSpeeds[i].key, static_cast<std::int16_t>(kSlowest - sliders_[i]->value()));
+    }
+    for (std::size_t i = 0; i < kSounds.size(); ++i) {
+        const bool on = lvSound_->item(static_cast<int>(i))->checkState() == Qt::Checked;
+        data.Set(kSounds[i].key, on ? kTrue : std::int16_t{0});
+    }
+    data.Set(keys::BGIndex, static_cast<std::int16_t>(background_.bgIndex));
+    data.Set(keys::Fade, background_.fade ? 1 : 0);
+    data.CustomColor(background_.customColor);
+    data.Set(keys::DeckIndex, static_cast<std::int16_t>(deck_));
+    accept();
+}
+
+QWidget* CustomizeDialog::MakeCounters() {
+    auto* frame = new QGroupBox(QStringLiteral("Counters"));
+    auto* rows = new QVBoxLayout(frame);
+    for (const CounterRow& row : kCounters) {
+        auto* box = new QCheckBox(QString::fromLatin1(row.text));
+        box->setChecked(engine_.data.Get(row.key) == 1);
+        connect(box, &QCheckBox::toggled, this,
+                [this, key = row.key](bool on) { engine_.data.Set(key, on ? 1 : 0); });
+        rows->addWidget(box);
+    }
+    return frame;
+}
+
+QWidget* CustomizeDialog::MakeRange() {
+    auto* frame = new QGroupBox(QStringLiteral("Random Range"));
+    auto* rows = new QVBoxLayout(frame);
+    imcRange_ = new QComboBox;
+    auto* label = new QLabel(QStringLiteral("Random Range Selection between 0 and "));
+    label->setBuddy(imcRange_);
+    imcRange_->setAccessibleName(label->text());
+    for (std::int16_t index = 1; index <= 15; ++index) {
+        imcRange_->addItem(ToQt(HighestNumberText(index)));
+    }
+    imcRange_->setCurrentIndex(engine_.data.Get(keys::RangeIndex) - 1);
+    connect(imcRange_, &QComboBox::activated, this, [this](int index) {
+        engine_.data.Set(keys::RangeIndex, static_cast<std::int16_t>(index + 1));
+    });
+    rows->addWidget(label);
+    rows->addWidget(imcRange_);
+    return frame;
+}
+
+QWidget* CustomizeDialog::MakeRecent() {
+    auto* frame = new QGroupBox(QStringLiteral("Recent List"));
+    auto* row = new QHBoxLayout(frame);
+    cmdClearRecent_ = new QPushButton(QStringLiteral("Clear"));
+    cmdClearRecent_->setAutoDefault(false);
+    cmdClearRecent_->setEnabled(engine_.data.RecentCount() > 0);
+    connect(cmdClearRecent_, &QPushButton::clicked, this, &CustomizeDialog::ClearRecent);
+    row->addWidget(new QLabel(QStringLiteral("Clear  Recent Games List")));
+    row->addStretch();
+    row->addWidget(cmdClearRecent_);
+    return frame;
+}
+
+QWidget* CustomizeDialog::MakeStatistics() {
+    auto* frame = new QGroupBox(QStringLiteral("Game Statistics"));
+    auto* row = new QHBoxLayout(frame);
+    auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
+    exportStat->setEnabled(false);  // the report doesn't exist yet
+    auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
+    clearStat->setAutoDefault(false);
+    connect(clearStat, &QPushButton::clicked, this, [this] { engine_.ClearStat(); });
+    row->addWidget(exportStat);
+    row->addWidget(clearStat);
+    return frame;
+}
+
+QWidget* CustomizeDialog::MakeGeneral() {
+    auto* page = new QWidget;
+    auto* all = new QVBoxLayout(page);
+    all->addWidget(MakeCounters());
+    all->addWidget(MakeRange());
+    all->addWidget(MakeRecent());
+    all->addWidget(MakeStatistics());
+    all->addStretch();
+    return page;
+}
+
+QWidget* CustomizeDialog::MakeAnimationAndSounds() {
+    auto* page = new QWidget;
+    auto* all = new QGridLayout(page);
+    for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
+        auto* frame = new QGroupBox(QString::fromLatin1(kSpeeds[i].caption));
+        auto* slider = new QSlider(Qt::Horizontal);
+        slider->setRange(0, kSlowest);
+        slider->setSingleStep(1);
+        slider->setPageStep(5);
+        slider->setValue(kSlowest - engine_.data.Get(kSpeeds[i].key));
+        slider->setAccessibleName(frame->title());
+        sliders_[i] = slider;
+        auto* inside = new QVBoxLayout(frame);
+        inside->addWidget(slider);
+        all->addWidget(frame, static_cast<int>(i), 0);
+    }
+    FillSounds();
+    auto* right = new QVBoxLayout;
+    auto* header = new QLabel(QStringLiteral("Select Sound"));
+    header->setBuddy(lvSound_);
+    right->addWidget(header);
+    right->addWidget(lvSound_);
+    all->addLayout(right, 0, 1, static_cast<int>(kSpeeds.size()), 1);
+    all->setColumnStretch(0, 1);
+    all->setColumnStretch(1, 1);
+    return page;
+}
+
+void CustomizeDialog::FillSounds() {
+    lvSound_->setAccessibleName(QStringLiteral("Select Sound"));
+    for (const SoundRow& row : kSounds) {
+        auto* item = new QListWidgetItem(QString::fromLatin1(row.text), lvSound_);
+        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        item->setCheckState(engine_.data.Get(row.key) == kTrue ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+}  // namespace varnello

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFrame>
+#include <optional>
+
+#include "desktop/appearance/background.h"
+
+namespace varnello {
+
+/// Shows a background, and on it a card's back if it is given one.
+class LookPreview : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit LookPreview(const QString& name);
+
+    void ShowBackground(const BackgroundChoice& choice);
+    void ShowDeck(int deckIndex);
+    int Deck() const { return deckIndex_.value_or(0); }
+    const BackgroundChoice& Background() const { return choice_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    BackgroundChoice choice_;
+    std::optional<int> deckIndex_;
+};
+
+}  // namespace varnello

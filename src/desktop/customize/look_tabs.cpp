@@ -1,0 +1,117 @@
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/colours.h"
+#include "desktop/appearance/looks.h"
+#include "desktop/customize/customize_dialog.h"
+
+// The tabs "Background" and "Decks": trees whose items carry the number of a look.
+namespace varnello {
+namespace {
+
+constexpr int kTag = Qt::UserRole;
+
+/// Adds an item with its number, and selects it if it is the chosen one.
+void AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QString& text, int tag, int chosen) {
+    auto* item = new QTreeWidgetItem(parent, {text});
+    item->setData(0, kTag, tag);
+    if (tag != chosen) return;
+    for (QTreeWidgetItem* node = parent; node; node = node->parent()) node->setExpanded(true);
+    tree->setCurrentItem(item);
+}
+
+void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups,
+               int chosen) {
+    for (const LookGroup& group : groups) {
+        auto* node = new QTreeWidgetItem(root, {group.name});
+        int number = 0;
+        for (const int id : group.ids) {
+            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen);
+        }
+    }
+}
+
+QVariant TagOf(const QTreeWidgetItem* item) { return item ? item->data(0, kTag) : QVariant(); }
+
+QTreeWidgetItem* Root(QTreeWidget* tree, const QString& text) {
+    tree->setHeaderHidden(true);
+    tree->setAccessibleName(text);
+    auto* root = new QTreeWidgetItem(tree, {text});
+    root->setExpanded(true);
+    return root;
+}
+
+}  // namespace
+
+QWidget* CustomizeDialog::MakeBackground() {
+    FillBackgrounds();
+    chkFade_->setChecked(background_.fade);
+    UpdateColorControls(true);
+    PaintPreviews();
+    connect(tvBGround_, &QTreeWidget::currentItemChanged, this, &CustomizeDialog::ChooseBackground);
+    connect(chkFade_, &QCheckBox::toggled, this, [this](bool on) {
+        background_.fade = on;
+        PaintPreviews();
+    });
+    cmdCustom_->setAutoDefault(false);
+    connect(cmdCustom_, &QPushButton::clicked, this, &CustomizeDialog::ChooseColor);
+
+    auto* page = new QWidget;
+    auto* right = new QVBoxLayout;
+    right->addWidget(Picture1_, 1);
+    right->addWidget(chkFade_);
+    right->addWidget(cmdCustom_);
+    auto* all = new QHBoxLayout(page);
+    all->addWidget(tvBGround_, 1);
+    all->addLayout(right, 1);
+    return page;
+}
+
+void CustomizeDialog::FillBackgrounds() {
+    QTreeWidgetItem* root = Root(tvBGround_, QStringLiteral("Backgrounds"));
+    auto* colors = new QTreeWidgetItem(root, {QStringLiteral("Colors")});
+    AddItem(tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground,
+            background_.bgIndex);
+    for (int id = kFirstOfferedColour; id <= kLastOfferedColour; ++id) {
+        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
+    }
+    AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
+}
+
+void CustomizeDialog::UpdateColorControls(bool hasTag) {
+    cmdCustom_->setEnabled(hasTag && background_.bgIndex == kCustomBackground);
+    chkFade_->setEnabled(hasTag && background_.bgIndex >= kCustomBackground);
+}
+
+void CustomizeDialog::ChooseBackground() {
+    const QVariant tag = TagOf(tvBGround_->currentItem());
+    if (tag.isValid()) {
+        background_.bgIndex = tag.toInt();
+        PaintPreviews();
+    }
+    UpdateColorControls(tag.isValid());
+}
+
+QWidget* CustomizeDialog::MakeDecks() {
+    FillDecks();
+    picDeckBack_->ShowDeck(deck_);
+    connect(tvDeck_, &QTreeWidget::currentItemChanged, this, &CustomizeDialog::ChooseDeck);
+    auto* page = new QWidget;
+    auto* all = new QHBoxLayout(page);
+    all->addWidget(tvDeck_, 1);
+    all->addWidget(picDeckBack_, 1);
+    return page;
+}
+
+void CustomizeDialog::FillDecks() {
+    AddGroups(tvDeck_, Root(tvDeck_, QStringLiteral("Decks")), DeckGroups(), deck_);
+}
+
+void CustomizeDialog::ChooseDeck() {
+    const QVariant tag = TagOf(tvDeck_->currentItem());
+    if (!tag.isValid()) return;
+    deck_ = tag.toInt();
+    picDeckBack_->ShowDeck(deck_);
+}
+
+}  // namespace varnello

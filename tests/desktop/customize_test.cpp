@@ -1,0 +1,124 @@
+#include <QDialogButtonBox>
+#include <QMessageBox>
+
+#include "desktop/customize/customize_dialog.h"
+#include "fixture.h"
+
+// What the customize dialog does at once, and what waits for OK.
+using namespace varnello;
+
+namespace {
+
+QTreeWidgetItem* ItemCalled(const QTreeWidget* tree, const QString& text) {
+    return tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+}
+
+void ChangeEverything(CustomizeDialog& dialog) {
+    dialog.backgrounds()->setCurrentItem(ItemCalled(dialog.backgrounds(), "Bricks 02"));
+    dialog.decks()->setCurrentItem(ItemCalled(dialog.decks(), "Nature 04"));
+    dialog.Slider(1)->setValue(0);
+    dialog.Slider(4)->setValue(50);
+    dialog.sounds()->item(0)->setCheckState(Qt::Unchecked);
+    dialog.sounds()->item(1)->setCheckState(Qt::Checked);
+}
+
+}  // namespace
+
+class CustomizeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OpensOnTheStoredSettings() {
+        WindowFixture fixture;
+        CustomizeDialog dialog(fixture.engine(), &fixture.window);
+        QCOMPARE(dialog.backgrounds()->currentItem()->text(0), "Dark Green");
+        QCOMPARE(dialog.decks()->currentItem()->text(0), "Misc 01");
+        QCOMPARE(dialog.deckPreview()->Deck(), 531);
+        QVERIFY(dialog.fade()->isEnabled() && dialog.fade()->isChecked());
+        QVERIFY(!dialog.custom()->isEnabled());
+        QVERIFY(!dialog.clearRecent()->isEnabled());
+        QCOMPARE(dialog.range()->currentText(), "999,999,999,999,999");
+        QCOMPARE(dialog.range()->itemText(3), "9,999");
+        const int positions[] = {45, 45, 48, 43};
+        for (int i = 1; i <= 4; ++i) QCOMPARE(dialog.Slider(i)->value(), positions[i - 1]);
+        QCOMPARE(dialog.sounds()->item(1)->text(), "Card Up");
+        QCOMPARE(dialog.sounds()->item(1)->checkState(), Qt::Unchecked);
+        QCOMPARE(dialog.sounds()->item(6)->checkState(), Qt::Checked);
+    }
+
+    void ColorControlsFollowTheTree() {
+        WindowFixture fixture;
+        CustomizeDialog dialog(fixture.engine(), &fixture.window);
+        const auto choose = [&](const char* name) {
+            dialog.backgrounds()->setCurrentItem(ItemCalled(dialog.backgrounds(), name));
+            return std::pair(dialog.custom()->isEnabled(), dialog.fade()->isEnabled());
+        };
+        QCOMPARE(choose("Custom Color"), std::pair(true, true));
+        QCOMPARE(choose("Wood"), std::pair(false, false));
+        QCOMPARE(choose("Wood 03"), std::pair(false, false));
+        QCOMPARE(choose("Purple"), std::pair(false, true));
+        QVERIFY(dialog.fade()->isChecked());
+        QVERIFY(!ItemCalled(dialog.backgrounds(), "Red"));  // known, but not offered
+    }
+
+    void CancelDropsAndOkStores() {
+        WindowFixture fixture;
+        cData& data = fixture.engine().data;
+        CustomizeDialog cancelled(fixture.engine(), &fixture.window);
+        ChangeEverything(cancelled);
+        for (QCheckBox* box : cancelled.findChildren<QCheckBox*>()) {
+            if (box->text() == "Show Moves") box->click();
+        }
+        cancelled.reject();
+        QCOMPARE(data.Get(keys::BGIndex), 1007);
+        QCOMPARE(data.Get(keys::CardSpeed), 5);
+        QCOMPARE(data.Get(keys::SoundStart), -1);
+        QCOMPARE(data.Get(keys::ShowMoves), 0);  // acts at once
+
+        fixture.Start("Cascade");
+        const QImage before = fixture.window.table().grab().toImage();
+        WhenOpen<CustomizeDialog>([](CustomizeDialog& dialog) {
+            ChangeEverything(dialog);
+            QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
+                              Qt::LeftButton);
+        });
+        fixture.window.menu().mTools(1)->trigger();
+        QCOMPARE(data.Get(keys::BGIndex), 2);
+        QCOMPARE(data.Get(keys::DeckIndex), 544);
+        QCOMPARE(data.Get(keys::Fade), 1);
+        QCOMPARE(data.Get(keys::CardSpeed), 50);
+        QCOMPARE(data.Get(keys::ReplaySpeed), 0);
+        QCOMPARE(data.Get(keys::SoundStart), 0);
+        QCOMPARE(data.Get(keys::SoundCardUp), -1);
+        QVERIFY(fixture.window.table().grab().toImage() != before);
+    }
+
+    void TheRecentListIsClearedAtOnceAfterAQuestion() {
+        WindowFixture fixture;
+        fixture.Start("Zodiac");
+        CustomizeDialog dialog(fixture.engine(), &fixture.window);
+        QStringList asked;
+        const auto answer = [&](QMessageBox::StandardButton button) {
+            WhenOpen<QMessageBox>([&asked, button](QMessageBox& box) {
+                asked << box.text();
+                box.button(button)->click();
+            });
+        };
+        answer(QMessageBox::No);
+        dialog.clearRecent()->click();
+        QVERIFY(dialog.clearRecent()->isEnabled());
+        WhenOpen<QMessageBox>([&](QMessageBox& box) {
+            asked << box.text();
+            answer(QMessageBox::Ok);
+            box.button(QMessageBox::Yes)->click();
+        });
+        dialog.clearRecent()->click();
+        QVERIFY(!dialog.clearRecent()->isEnabled());
+        QCOMPARE(fixture.engine().data.RecentCount(), 0);
+        QCOMPARE(asked.value(1), "Are you sure you want to clear the Recent Games List ?");
+        QCOMPARE(asked.value(2), "Recent Games List has been Cleared.");
+    }
+};
+
+QTEST_MAIN(CustomizeTest)
+#include "customize_test.moc"
