@@ -30,3 +30,11 @@ xdotool key Return
 until_windows 1 'Varnello \[Penguin\]'
 sleep 2.5
 picture table
+xdotool key F1
+until_windows 1 '^Penguin - Varnello$'
+picture help
+xdotool key Escape
+xdotool search --sync --onlyvisible --name 'Varnello \[Penguin\]' windowfocus --sync key ctrl+u
+until_windows 1 '^Customize$'
+xdotool key ctrl+Tab
+picture customize

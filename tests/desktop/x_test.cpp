@@ -13,13 +13,8 @@ using namespace varnello;
 
 namespace {
 
-void xdotool(const QStringList& words) {
-    QProcess process;
-    process.start("xdotool", words);
-    QEventLoop loop;
-    QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
-    if (process.state() != QProcess::NotRunning) loop.exec();
-}
+/// Only sends events to the X server; what they set off happens in the event loop.
+void xdotool(const QStringList& words) { QProcess::execute("xdotool", words); }
 
 QStringList MoveTo(const QWidget& widget, const QPoint& at) {
     const QPoint global = widget.mapToGlobal(at);
@@ -112,6 +107,62 @@ private Q_SLOTS:
                      .match(line)
                      .hasMatch(),
                  qPrintable(line));
+    }
+
+    void ChoosesAndKeepsByKeyboard() {
+        if (QGuiApplication::platformName() != "xcb") QSKIP("needs an X server");
+        QTemporaryDir home;
+        MemoryStore settings;
+        SystemClock clock;
+        NoSounds sounds;
+        const std::filesystem::path data = home.path().toStdString() + "/data";
+        MainWindow window({settings, clock, sounds, data});
+        window.table().SetPaced(false);
+        window.showMaximized();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        cData& stored = window.engine().data;
+
+        // Keys go out only when the window that they are for has the focus; each step waits for it.
+        QList<std::pair<QString, QStringList>> steps{
+            {"Select a Game Number", {"type", "0"}},
+            {"Select a Game Number", {"key", "Return"}},
+            {"Varnello", {"key", "Return"}},
+            {"Select a Game Number", {"type", "12.5"}},
+            {"Select a Game Number", {"key", "Return"}},
+        };
+        const auto run = [&](const QStringList& open) {
+            QTimer step;
+            connect(&step, &QTimer::timeout, [&] {
+                const QWidget* active = QApplication::activeModalWidget();
+                if (steps.isEmpty() || !active || !active->isActiveWindow()) return;
+                if (active->windowTitle() != steps.first().first) return;
+                xdotool(steps.takeFirst().second);
+            });
+            step.start(60);
+            xdotool(open);
+            QTRY_VERIFY_WITH_TIMEOUT(steps.isEmpty() && !QApplication::activeModalWidget(), 15000);
+        };
+        run({"key", "shift+F2"});
+        QCOMPARE(stored.CurGNo.Shown(), "012.5");  // the 0 of the complaint stands, unselected
+        QTRY_VERIFY(window.menu().mFav(1)->isEnabled());
+        steps = {{"Varnello", {"key", "Return"}}};
+        run({"key", "ctrl+a"});
+        steps = {{"Play from Favorites", {"key", "Return"}}};
+        run({"key", "ctrl+p"});
+        QCOMPARE(ReadLines(data / "Player1.sre").size(), std::size_t{1});
+        steps = {{"Players", {"key", "Tab"}},     {"Players", {"key", "space"}},
+                 {"Varnello", {"key", "Return"}}, {"Varnello", {"key", "Return"}},
+                 {"Varnello", {"type", "Ann"}},   {"Varnello", {"key", "Return"}},
+                 {"Players", {"key", "Escape"}}};
+        run({"key", "ctrl+l"});
+        QCOMPARE(stored.GetPlayer(2), "Ann");
+        QTRY_VERIFY(window.menu().mTools(5)->isEnabled());
+        steps = {{"Game History", {"key", "Escape"}}};
+        run({"key", "ctrl+h"});
+        steps = {{"Organize Favorites", {"key", "Return"}}};
+        run({"key", "ctrl+f"});
+        window.close();
+        QVERIFY(ReadLines(data / "Player1.sre").at(1).find(",\"012.5\",") != std::string::npos);
     }
 
     void WinsWholeGames_data() {
