@@ -105,6 +105,18 @@ private Q_SLOTS:
             QVERIFY(difference(step, extent - 1) <= most * 1.05);
         }
         QCOMPARE(surface.pixel(0, 0), surface.pixel(size.width() * 2, size.height() * 2));
+
+        // On dense screens the tiles are larger and still leave nothing out.
+        for (const double ratio : {1.5, 2.0}) {
+            QImage dense((QSizeF(size) * ratio * 2).toSize(), QImage::Format_RGB32);
+            dense.fill(Qt::magenta);
+            QVERIFY(TileFill(dense, ratio, id));
+            for (int y = 0; y < dense.height(); ++y) {
+                for (int x = 0; x < dense.width(); ++x) {
+                    QVERIFY(dense.pixel(x, y) != QColor(Qt::magenta).rgb());
+                }
+            }
+        }
     }
 
     void PicturesAreReadyMadeAtTheUsualRatios() {

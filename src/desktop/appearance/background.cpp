@@ -42,6 +42,8 @@ bool TileFill(QImage& surface, double ratio, int id) {
                                Qt::SmoothTransformation);
         }
     }
+    tile.setDevicePixelRatio(
+        1);  // the file's name has set it, but the surface counts device pixels
     QPainter painter(&surface);
     for (int y = 0; y < surface.height(); y += tile.height()) {
         for (int x = 0; x < surface.width(); x += tile.width()) painter.drawImage(x, y, tile);
