@@ -2,18 +2,35 @@
 
 namespace varnello {
 
+namespace {
+
+/// What the tableau, the foundations and the reserve have in common.
+template <typename PileDef>
+CellDef CellOf(const PileDef& def) {
+    return {.Piles = def.Piles,
+            .Cards = def.Cards,
+            .StartX = def.StartX,
+            .StartY = def.StartY,
+            .PileWidth = def.PileWidth,
+            .PosWidth = def.PosWidth,
+            .Div = def.Div,
+            .DivWidth = def.DivWidth,
+            .PileOrder = def.PileOrder};
+}
+
+/// The same for cells on which cards build.
+template <typename PileDef>
+CellDef BuildingCellOf(const PileDef& def) {
+    CellDef cell = CellOf(def);
+    cell.Order = def.Order;
+    cell.AK = def.AK;
+    return cell;
+}
+
+}  // namespace
+
 void cGames::Home(const HomeDef& def) {
-    Def(Cell::Home) = {.Piles = def.Piles,
-                       .Cards = def.Cards,
-                       .Order = def.Order,
-                       .AK = def.AK,
-                       .StartX = def.StartX,
-                       .StartY = def.StartY,
-                       .PileWidth = def.PileWidth,
-                       .PosWidth = def.PosWidth,
-                       .Div = def.Div,
-                       .DivWidth = def.DivWidth,
-                       .PileOrder = def.PileOrder};
+    Def(Cell::Home) = BuildingCellOf(def);
     emptyNum_ = def.EmptyNum;
     multiMove_ = def.MultiMove;
     homeType_ = def.HomeType;
@@ -40,31 +57,11 @@ void cGames::Waste(const WasteDef& def) {
 }
 
 void cGames::Goal(const GoalDef& def) {
-    Def(Cell::Goal) = {.Piles = def.Piles,
-                       .Cards = def.Cards,
-                       .Order = def.Order,
-                       .AK = def.AK,
-                       .StartX = def.StartX,
-                       .StartY = def.StartY,
-                       .PileWidth = def.PileWidth,
-                       .PosWidth = def.PosWidth,
-                       .Div = def.Div,
-                       .DivWidth = def.DivWidth,
-                       .PileOrder = def.PileOrder};
+    Def(Cell::Goal) = BuildingCellOf(def);
     goalType_ = def.GoalType;
 }
 
-void cGames::Res(const ResDef& def) {
-    Def(Cell::Res) = {.Piles = def.Piles,
-                      .Cards = def.Cards,
-                      .StartX = def.StartX,
-                      .StartY = def.StartY,
-                      .PileWidth = def.PileWidth,
-                      .PosWidth = def.PosWidth,
-                      .Div = def.Div,
-                      .DivWidth = def.DivWidth,
-                      .PileOrder = def.PileOrder};
-}
+void cGames::Res(const ResDef& def) { Def(Cell::Res) = CellOf(def); }
 
 void cGames::Ext(const ExtDef& def) { ext_ = def; }
 
