@@ -69,10 +69,11 @@ QWidget* FinishDialog::MakeResult(const FinishFigures& figures) {
     row->addWidget(list);
 
     if (ChartModule* charts = Charts()) {
-        const QList<ChartBar> bars{{QStringLiteral("Score"), static_cast<double>(figures.Score)},
-                                   {QStringLiteral("Moves"), static_cast<double>(figures.Moves)},
-                                   {QStringLiteral("Time"), static_cast<double>(figures.Time)}};
-        QWidget* chart = charts->TotalsChart(bars, frame);
+        Chart* chart = charts->NewChart(ChartKind::Totals, frame);
+        chart->Show({{QStringLiteral("Score"), QStringLiteral("Moves"), QStringLiteral("Time")},
+                     {{static_cast<double>(figures.Score), static_cast<double>(figures.Moves),
+                       static_cast<double>(figures.Time)}},
+                     {}});
         chart->setMinimumSize(kChartSize);
         chart->setAccessibleName(QStringLiteral("Score, moves and time as columns"));
         row->addWidget(chart);
