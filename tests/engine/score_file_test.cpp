@@ -11,23 +11,32 @@ constexpr const char* kGood =
 TEST(ScoreLines, ReadBackAsWritten) {
     const ScoreRecord records[] = {
         {"11/18/2026 12:51:26 PM", "Baker's Game", GameNumber::Number(123456789012345), 342, 118,
-         -4711, 1, ""},
-        {"", "", GameNumber::Text("1e3"), 0, 0, 0, 0, ""},
-        {"no date", "Zodiac", GameNumber::Text(""), 2147483647, -2147483647 - 1, 0, -32768, ""}};
+         -4711, 1, "Ada"},
+        {"2/29/0004 12:00:00 AM", "a", GameNumber::Text("999999999999999999"), 1, 1, 1, 2, "Ada"},
+        {"02/3/2026 1:00:00 AM", "b", GameNumber::Text("012"), 1, 1, 1, 2, ""},
+        {"2/29/2026 1:00:00 AM", "c", GameNumber::Text("9999999999999999999"), 1, 1, 1, 2, "Bob"},
+        {"", "", GameNumber::Text("1e3"), 0, 0, 0, 0, "Ada"},
+        {"no date", "a", GameNumber::Text(""), 2147483647, -2147483647 - 1, 0, -32768, "Bob"}};
+    ScoreList list;
     for (const ScoreRecord& record : records) {
-        EXPECT_EQ(ParseScoreLine(ScoreLine(record)), record) << ScoreLine(record);
+        const std::string line = ScoreLine(record);
+        const auto fields = ReadScoreLine(line);
+        ASSERT_TRUE(fields) << line;
+        list.Add(*fields, list.AddPlayer(record.Player));
     }
-    EXPECT_EQ(ScoreLine(*ParseScoreLine(kGood)), kGood);
+    for (std::size_t i = 0; i < list.Size(); ++i) EXPECT_EQ(list.Record(i), records[i]);
 }
 
-TEST(ScoreLines, KindOfTheNumberIsKept) {
-    EXPECT_FALSE(ParseScoreLine("\"d\",\"g\",7,1,1,1,1")->GameNo.IsText());
-    EXPECT_TRUE(ParseScoreLine("\"d\",\"g\",\"7\",1,1,1,1")->GameNo.IsText());
+TEST(ScoreLines, NumbersMayHaveLeadingZeros) {
+    const auto fields = ReadScoreLine("\"d\",\"g\",007,000000000000002147483647,-00,01,1");
+    ASSERT_TRUE(fields);
+    EXPECT_EQ(fields->GameNo.Number(), GameNumber::Number(7));
+    EXPECT_EQ(fields->Time, 2147483647);
 }
 
 class Damaged : public ::testing::TestWithParam<const char*> {};
 
-TEST_P(Damaged, LineIsNoRecord) { EXPECT_FALSE(ParseScoreLine(GetParam())); }
+TEST_P(Damaged, LineIsNoRecord) { EXPECT_FALSE(ReadScoreLine(GetParam())); }
 
 INSTANTIATE_TEST_SUITE_P(
     ScoreLines, Damaged,

@@ -1,5 +1,6 @@
 #include "engine/common/calendar.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 
@@ -16,17 +17,43 @@ std::chrono::year_month_day DateOf(const DateTime& moment) {
 
 bool InRange(int value, int low, int high) { return value >= low && value <= high; }
 
-/// Takes digits from the front of `text`, `fewest` to `most` of them, and the separator behind.
-std::optional<int> TakeNumber(std::string_view& text, std::size_t fewest, std::size_t most,
-                              std::string_view separator) {
-    std::size_t size = 0;
-    while (size < text.size() && size < most && text[size] >= '0' && text[size] <= '9') ++size;
-    const bool padded = fewest == 1 && size > 1 && text[0] == '0';
-    if (size < fewest || padded || !text.substr(size).starts_with(separator)) return std::nullopt;
-    const auto value = ParseWhole<int>(text.substr(0, size));
-    text.remove_prefix(size + separator.size());
-    return value;
-}
+/// Reads a date text from left to right; once something doesn't fit, all that follows fails too.
+class DateReader {
+public:
+    explicit DateReader(std::string_view text) : at_(text.data()), end_(at_ + text.size()) {}
+
+    /// A number of one or two digits without a leading zero, and the separator behind.
+    int Short(char separator) {
+        const bool padded = at_ != end_ && *at_ == '0' && at_ + 1 != end_ && IsDigit(at_[1]);
+        const int value = padded ? Fail() : Digit();
+        const bool second = at_ != end_ && IsDigit(*at_);
+        return Separated(second ? value * 10 + Digit() : value, separator);
+    }
+    /// A number of exactly `size` digits, and the separator behind.
+    int Fixed(int size, char separator) {
+        int value = 0;
+        for (; size > 0; --size) value = value * 10 + Digit();
+        return Separated(value, separator);
+    }
+    std::string_view Rest() const { return {at_, static_cast<std::size_t>(end_ - at_)}; }
+    bool Sound() const { return sound_; }
+
+private:
+    int Fail() {
+        sound_ = false;
+        return 0;
+    }
+    int Digit() { return at_ != end_ && IsDigit(*at_) ? *at_++ - '0' : Fail(); }
+    int Separated(int value, char separator) {
+        if (at_ == end_ || *at_ != separator) return Fail();
+        ++at_;
+        return value;
+    }
+
+    const char* at_;
+    const char* end_;
+    bool sound_ = true;
+};
 
 }  // namespace
 
@@ -37,8 +64,7 @@ bool IsValid(const DateTime& moment) {
 }
 
 std::int64_t SecondsSinceEpoch(const DateTime& moment) {
-    const std::int64_t days = std::chrono::sys_days{DateOf(moment)}.time_since_epoch().count();
-    return ((days * 24 + moment.hour) * 60 + moment.minute) * 60 + moment.second;
+    return ((DayNumber(moment) * 24 + moment.hour) * 60 + moment.minute) * 60 + moment.second;
 }
 
 DateTime FromSecondsSinceEpoch(std::int64_t seconds) {
@@ -58,29 +84,58 @@ std::int64_t SecondsBetween(const DateTime& from, const DateTime& to) {
     return SecondsSinceEpoch(to) - SecondsSinceEpoch(from);
 }
 
+std::int64_t DayNumber(const DateTime& moment) {
+    return std::chrono::sys_days{DateOf(moment)}.time_since_epoch().count();
+}
+
+std::int64_t MonthNumber(const DateTime& moment) { return moment.year * 12 + moment.month - 1; }
+
+DateTime AddDays(const DateTime& moment, int days) {
+    return FromSecondsSinceEpoch(SecondsSinceEpoch(moment) + std::int64_t{days} * 86400);
+}
+
+DateTime AddMonths(const DateTime& moment, int months) {
+    auto date = DateOf(moment) + std::chrono::months{months};
+    if (!date.ok()) date = date.year() / date.month() / std::chrono::last;
+    DateTime result = moment;
+    result.year = static_cast<int>(date.year());
+    result.month = static_cast<int>(static_cast<unsigned>(date.month()));
+    result.day = static_cast<int>(static_cast<unsigned>(date.day()));
+    return result;
+}
+
+DateTime AddYears(const DateTime& moment, int years) { return AddMonths(moment, years * 12); }
+
+std::string ShortDateText(const DateTime& moment) {
+    std::string year = std::to_string(moment.year);
+    year.insert(0, 4 - std::min<std::size_t>(year.size(), 4), '0');
+    return std::to_string(moment.month) + '/' + std::to_string(moment.day) + '/' + year;
+}
+
+std::string_view MonthName(int month) {
+    static constexpr std::string_view kNames = "JanFebMarAprMayJunJulAugSepOctNovDec";
+    return kNames.substr(static_cast<std::size_t>(month - 1) * 3, 3);
+}
+
 std::string DateText(const DateTime& moment) {
     const int hour = moment.hour % 12 == 0 ? 12 : moment.hour % 12;
-    return std::to_string(moment.month) + '/' + std::to_string(moment.day) + '/' +
-           std::to_string(moment.year) + ' ' + std::to_string(hour) + ':' +
-           TwoDigits(moment.minute) + ':' + TwoDigits(moment.second) +
-           (moment.hour < 12 ? " AM" : " PM");
+    return ShortDateText(moment) + ' ' + std::to_string(hour) + ':' + TwoDigits(moment.minute) +
+           ':' + TwoDigits(moment.second) + (moment.hour < 12 ? " AM" : " PM");
 }
 
 std::optional<DateTime> ParseDateText(std::string_view text) {
-    const auto month = TakeNumber(text, 1, 2, "/");
-    const auto day = month ? TakeNumber(text, 1, 2, "/") : std::nullopt;
-    const auto year = day ? TakeNumber(text, 4, 4, " ") : std::nullopt;
-    const auto hour = year ? TakeNumber(text, 1, 2, ":") : std::nullopt;
-    const auto minute = hour ? TakeNumber(text, 2, 2, ":") : std::nullopt;
-    const auto second = minute ? TakeNumber(text, 2, 2, " ") : std::nullopt;
-    if (!second || !InRange(*hour, 1, 12) || (text != "AM" && text != "PM")) return std::nullopt;
-    const DateTime moment{.year = *year,
-                          .month = *month,
-                          .day = *day,
-                          .hour = *hour % 12 + (text == "PM" ? 12 : 0),
-                          .minute = *minute,
-                          .second = *second};
-    return IsValid(moment) ? std::optional{moment} : std::nullopt;
+    DateReader reader(text);
+    DateTime moment;
+    moment.month = reader.Short('/');
+    moment.day = reader.Short('/');
+    moment.year = reader.Fixed(4, ' ');
+    const int hour = reader.Short(':');
+    moment.minute = reader.Fixed(2, ':');
+    moment.second = reader.Fixed(2, ' ');
+    const bool afternoon = reader.Rest() == "PM";
+    if (!reader.Sound() || (!afternoon && reader.Rest() != "AM")) return std::nullopt;
+    moment.hour = hour % 12 + (afternoon ? 12 : 0);
+    return InRange(hour, 1, 12) && IsValid(moment) ? std::optional{moment} : std::nullopt;
 }
 
 std::string FormatTime(std::int32_t seconds) {

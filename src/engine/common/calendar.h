@@ -29,11 +29,28 @@ DateTime FromSecondsSinceEpoch(std::int64_t seconds);
 /// The calendar difference `to` - `from` in seconds; negative when `to` lies earlier.
 std::int64_t SecondsBetween(const DateTime& from, const DateTime& to);
 
+/// Days since 1970-01-01.
+std::int64_t DayNumber(const DateTime& moment);
+/// Months since year 0; the difference of two counts the month boundaries between them.
+std::int64_t MonthNumber(const DateTime& moment);
+
+/// The same time of day `days`, `months` or `years` later, earlier when negative. A day that the
+/// month reached doesn't have becomes its last one.
+DateTime AddDays(const DateTime& moment, int days);
+DateTime AddMonths(const DateTime& moment, int months);
+DateTime AddYears(const DateTime& moment, int years);
+
 /// The one form of dates in files: `M/D/YYYY h:mm:ss AM/PM`, as in "11/18/2026 12:51:26 PM".
 std::string DateText(const DateTime& moment);
 
 /// Reads the form of `DateText`; empty when the text has another form or names no date.
 std::optional<DateTime> ParseDateText(std::string_view text);
+
+/// The date alone, as in "11/18/2026".
+std::string ShortDateText(const DateTime& moment);
+
+/// A month's name in three letters; `month` from 1 to 12.
+std::string_view MonthName(int month);
 
 /// A duration in seconds as h:mm:ss. Hours aren't folded into days: 49:02:05.
 std::string FormatTime(std::int32_t seconds);

@@ -6,8 +6,6 @@
 namespace varnello {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 std::size_t CountDigits(std::string_view text) {
     return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsDigit) -
                                     text.begin());
@@ -81,6 +79,13 @@ std::string WholeText(double value) {
     char buffer[512];
     const auto result =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 0);
+    return std::string(buffer, result.ptr);
+}
+
+std::string ShortDecimal(double value) {
+    char buffer[64];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
     return std::string(buffer, result.ptr);
 }
 

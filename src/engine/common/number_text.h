@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <optional>
@@ -7,6 +8,13 @@
 #include <string_view>
 
 namespace varnello {
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Whether all of `text` is decimal digits, which is so for an empty one.
+constexpr bool IsAllDigits(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), IsDigit);
+}
 
 /// A whole number in plain decimal: an optional sign and digits, nothing around them. Empty when
 /// `text` is anything else or the number doesn't fit. Never looks at the locale.
@@ -33,6 +41,9 @@ std::string_view Trim(std::string_view text);
 
 /// A whole-valued float in plain digits, without exponent.
 std::string WholeText(double value);
+
+/// A float in plain decimal with at most 15 significant digits and no trailing zeros: 50, 33.33.
+std::string ShortDecimal(double value);
 
 /// Two digits at least, padded with a zero.
 std::string TwoDigits(std::int64_t value);

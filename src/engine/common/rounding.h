@@ -15,6 +15,9 @@ inline double RoundHalfEven(double value) {
     return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
 }
 
+/// Rounded to 2 decimals, halves to the even digit.
+inline double RoundHalfEven2(double value) { return RoundHalfEven(value * 100.0) / 100.0; }
+
 /// `value` as a signed 16-bit number; what lies outside stays at the limit instead of wrapping.
 constexpr std::int16_t Saturate16(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
@@ -31,6 +34,13 @@ constexpr std::int32_t Saturate32(std::int64_t value) {
 inline std::int16_t RoundTo16(double value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(
+        std::clamp<double>(RoundHalfEven(value), Limits::min(), Limits::max()));
+}
+
+/// The same with 32 bits.
+inline std::int32_t RoundTo32(double value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(
         std::clamp<double>(RoundHalfEven(value), Limits::min(), Limits::max()));
 }
 

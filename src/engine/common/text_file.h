@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,12 @@ namespace varnello {
 /// can't be written; what was on disk stays as it was.
 bool AppendLine(const std::filesystem::path& file, std::string_view line);
 
-/// The lines of a file without their ends, LF or CR LF; the last one needs none. A missing or
-/// unreadable file has no lines.
+/// Hands out the lines of a file one after the other, without their ends, LF or CR LF; the last one
+/// needs none. A missing or unreadable file has no lines. A view is good for its call only.
+void ForEachLine(const std::filesystem::path& file,
+                 const std::function<void(std::string_view)>& take);
+
+/// All lines of a file together.
 std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
 }  // namespace varnello

@@ -14,11 +14,13 @@ namespace {
 constexpr std::size_t kMaxFavorites = std::numeric_limits<std::int16_t>::max();
 
 std::optional<FavRecord> ParseFavLine(std::string_view line) {
-    const auto fields = SplitFields(line);
-    if (!fields || fields->size() != 2 || !fields->front().quoted) return std::nullopt;
-    const auto number = ReadGameNumber(fields->back());
-    if (!number) return std::nullopt;
-    return FavRecord{std::string(fields->front().text), *number};
+    FieldReader reader(line);
+    std::string_view game;
+    NumberField number;
+    const bool sound =
+        reader.Quoted(game) && reader.Comma() && number.Take(reader) && reader.AtEnd();
+    if (!sound) return std::nullopt;
+    return FavRecord{std::string(game), number.Number()};
 }
 
 }  // namespace
@@ -27,10 +29,10 @@ std::filesystem::path Favorites::File() const { return data_.AppDir() / "fav.dat
 
 void Favorites::OpenFav() {
     list_.clear();
-    for (const std::string& line : ReadLines(File())) {
+    ForEachLine(File(), [&](std::string_view line) {
         if (list_.size() == kMaxFavorites) return;
         if (auto record = ParseFavLine(line)) list_.push_back(std::move(*record));
-    }
+    });
 }
 
 bool Favorites::AddFav(const std::string& game, const GameNumber& number) const {

@@ -1,6 +1,8 @@
 #include "engine/scores/score_store.h"
 
+#include <future>
 #include <limits>
+#include <numeric>
 
 #include "engine/common/text_file.h"
 
@@ -9,9 +11,19 @@ namespace {
 
 constexpr std::size_t kMaxSesGames = std::numeric_limits<std::int16_t>::max();
 
+ScoreList ReadScores(const std::filesystem::path& file, const std::string& player) {
+    ScoreList list;
+    const std::uint16_t number = list.AddPlayer(player);
+    ForEachLine(file, [&](std::string_view line) {
+        if (const auto fields = ReadScoreLine(line)) list.Add(*fields, number);
+    });
+    return list;
+}
+
 }  // namespace
 
-cScore::cScore(cData& data, const Clock& clock) : data_(data), clock_(clock) {}
+cScore::cScore(cData& data, const Clock& clock, const DateForms& dates)
+    : data_(data), clock_(clock), dates_(dates) {}
 
 ScoreRecord cScore::CurrentGame(std::int16_t Status) const {
     return {.Date = {},
@@ -35,19 +47,51 @@ void cScore::AddSesGame(std::int16_t Status) {
 }
 
 void cScore::OpenScore(const std::string& Player) {
-    for (const std::string& line : ReadLines(ScorePath(data_, Player))) {
-        if (auto record = ParseScoreLine(line)) {
-            record->Player = Player;
-            scoreList_.push_back(std::move(*record));
-        }
-    }
+    sums_.reset();
+    list_.Append(ReadScores(ScorePath(data_, Player), Player));
 }
 
 void cScore::OpenAllScore() {
     CloseScore();
+    std::vector<std::future<ScoreList>> files;
     for (std::int16_t slot = 1; slot <= data_.TotalPlayers(); ++slot) {
-        OpenScore(data_.GetPlayer(slot));
+        const std::string player = data_.GetPlayer(slot);
+        files.push_back(std::async(ReadScores, ScorePath(data_, player), player));
     }
+    std::vector<ScoreList> lists;
+    for (auto& file : files) lists.push_back(file.get());
+    list_.Reserve(std::accumulate(lists.begin(), lists.end(), std::size_t{0},
+                                  [](auto sum, const auto& list) { return sum + list.Size(); }));
+    for (const ScoreList& list : lists) list_.Append(list);
+}
+
+void cScore::CloseScore() {
+    list_.Clear();
+    sums_.reset();
+    topList_ = {};
+}
+
+const ScoreSums& cScore::Sums() const {
+    if (!sums_) sums_.emplace(list_);
+    return *sums_;
+}
+
+ScoreSummary cScore::GameSummary(std::string_view Game) const {
+    const auto id = list_.Games().Find(Game);
+    return id ? Sums().byGame[*id].summary : ScoreSummary{};
+}
+
+ScoreSummary cScore::PlayerSummary(std::string_view Player) const {
+    const auto id = list_.Players().Find(Player);
+    return id ? Sums().byPlayer[*id] : ScoreSummary{};
+}
+
+ScoreRecord cScore::GetGameScore(std::string_view Game, std::int32_t N) const {
+    const auto id = list_.Games().Find(Game);
+    if (!id || N < 1) return {};
+    const auto& positions = Sums().byGame[*id].positions;
+    const auto index = static_cast<std::size_t>(N - 1);
+    return index < positions.size() ? list_.Record(positions[index]) : ScoreRecord{};
 }
 
 ScoreSummary cScore::SesSummary() const {

@@ -1,19 +1,26 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "engine/desktop.h"
-#include "engine/scores/record.h"
+#include "engine/scores/periods.h"
+#include "engine/scores/score_list.h"
+#include "engine/scores/sums.h"
 #include "engine/settings/data.h"
 
 namespace varnello {
+
+inline constexpr std::int16_t kTopPlaces = 20;
 
 /// The finished games: files on disk, one a player, and the list of this run. A report opens the
 /// files into one list in memory, asks, and closes it; nothing derived from them is stored.
 class cScore {
 public:
-    cScore(cData& data, const Clock& clock);
+    cScore(cData& data, const Clock& clock, const DateForms& dates);
 
     /// Appends the current game to the current player's file. False when it can't be written.
     bool AddScore(std::int16_t Status);
@@ -22,13 +29,40 @@ public:
 
     /// Appends the player's games to the list; damaged lines are skipped.
     void OpenScore(const std::string& Player);
+    /// Opens all listed players' games afresh, player after player in slot order.
     void OpenAllScore();
-    void CloseScore() { scoreList_.clear(); }
-    std::int32_t ScoreTop() const { return static_cast<std::int32_t>(scoreList_.size()); }
-    /// A record of the open list, 1 to `ScoreTop`.
-    const ScoreRecord& GetScore(std::int32_t Index) const {
-        return scoreList_.at(static_cast<std::size_t>(Index - 1));
+    void CloseScore();
+    std::int32_t ScoreTop() const { return static_cast<std::int32_t>(list_.Size()); }
+    /// A copy of a record of the open list, 1 to `ScoreTop`.
+    ScoreRecord GetScore(std::int32_t Index) const {
+        return list_.Record(static_cast<std::size_t>(Index - 1));
     }
+    /// The `N`-th record of a game, from 1; an empty record when there are fewer.
+    ScoreRecord GetGameScore(std::string_view Game, std::int32_t N) const;
+    const ScoreList& List() const { return list_; }
+
+    /// Games and players are compared exactly; what has no games has zeros.
+    ScoreSummary AllSummary() const { return Sums().all; }
+    ScoreSummary GameSummary(std::string_view Game) const;
+    ScoreSummary PlayerSummary(std::string_view Player) const;
+    /// The games of the calendar day, month or year that holds `Date`.
+    varnello::PeriodSummary PeriodSummary(const DateTime& Date, Interval interval) const {
+        return PeriodSummaries({Date}, interval).front();
+    }
+    /// The same for several dates in one walk; no two may name the same period.
+    std::vector<varnello::PeriodSummary> PeriodSummaries(const std::vector<DateTime>& dates,
+                                                         Interval interval) const {
+        return Periods(list_, dates, interval, dates_);
+    }
+
+    /// Ranks by score, highest first, later records ahead of equal ones. Scores of 0 and below
+    /// take no part; an empty text means all games or players; `NonZeroStatus` 1 leaves out games
+    /// with status 0.
+    void Sort(std::string_view Game, std::string_view Player, std::int16_t NonZeroStatus);
+    /// Ranks won games, smallest first, by time or by moves; exactly one of them is set.
+    void FinSort(bool ByTime, bool ByMoves);
+    /// A copy of a place of the ranking, 1 to 20; places not taken hold an empty record.
+    ScoreRecord GetTopScore(std::int16_t Index) const;
 
     std::int16_t SesTop() const { return static_cast<std::int16_t>(sesList_.size()); }
     /// A game of this run, 1 to `SesTop`.
@@ -37,12 +71,22 @@ public:
     }
     ScoreSummary SesSummary() const;
 
-private:
+    /// The game on the table or the one last on it, as it would be booked now; without a date.
     ScoreRecord CurrentGame(std::int16_t Status) const;
 
+private:
     cData& data_;
     const Clock& clock_;
-    std::vector<ScoreRecord> scoreList_;
+    const DateForms& dates_;
+    /// Positions in the list, from 1; 0 stands for a place not taken. Place 0 is never taken.
+    using TopList = std::array<std::uint32_t, kTopPlaces + 1>;
+    void PutAt(std::size_t place, std::uint32_t position);
+    /// The sums over the open list, worked out when first asked for.
+    const ScoreSums& Sums() const;
+
+    ScoreList list_;
+    mutable std::optional<ScoreSums> sums_;
+    TopList topList_{};
     std::vector<ScoreRecord> sesList_;
 };
 

@@ -7,12 +7,8 @@
 namespace varnello {
 
 std::optional<GameNumber> GameNumber::ParseBare(std::string_view digits) {
-    if (digits.size() > 15 || digits.find_first_not_of("0123456789") != std::string_view::npos) {
-        return std::nullopt;
-    }
-    const auto value = ParseWhole<std::int64_t>(digits);
-    if (!value) return std::nullopt;
-    return Number(static_cast<double>(*value));
+    if (digits.empty() || digits.size() > 15 || !IsAllDigits(digits)) return std::nullopt;
+    return Number(static_cast<double>(ParseWhole<std::int64_t>(digits).value_or(0)));
 }
 
 std::string GameNumber::Shown() const {

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/common/calendar.h"
+#include "engine/scores/record.h"
+#include "engine/scores/text_pool.h"
+
+namespace varnello {
+
+/// One finished game in 40 bytes: texts that thousands of games share are numbers here. What the
+/// file held can be told again exactly.
+struct CompactScore {
+    enum class Form : std::uint8_t { Digits, QuotedDigits, Text };
+
+    std::int64_t Date = 0;    ///< seconds since 1970; the text's number when not `Dated`
+    std::int64_t Number = 0;  ///< the game number; its text's number with `Form::Text`
+    std::int32_t Time = 0;    ///< seconds
+    std::int32_t Moves = 0;
+    std::int32_t Score = 0;
+    TextPool::Id Game = 0;
+    std::uint16_t Player = 0;
+    std::int16_t Status = 0;
+    bool Dated = false;
+    Form NumberForm = Form::Digits;
+};
+
+/// The games of one or all players in memory, in the order in which they were added.
+class ScoreList {
+public:
+    /// The number that stands for a player in `Add`.
+    std::uint16_t AddPlayer(std::string_view name);
+    void Add(const ScoreFields& fields, std::uint16_t player);
+    /// Adds all games of another list behind those of this one.
+    void Append(const ScoreList& other);
+    void Clear() { *this = {}; }
+    /// Makes room for so many records in all.
+    void Reserve(std::size_t records) { scores_.reserve(records); }
+
+    std::size_t Size() const { return scores_.size(); }
+    bool Empty() const { return scores_.empty(); }
+
+    /// Positions count from 0.
+    const CompactScore& At(std::size_t position) const { return scores_.at(position); }
+    ScoreRecord Record(std::size_t position) const;
+    /// The moment a game ended; empty when its date has another form or names no date.
+    static std::optional<DateTime> DateOf(const CompactScore& score);
+    std::string DateTextOf(const CompactScore& score) const;
+    GameNumber NumberOf(const CompactScore& score) const;
+    const std::string& GameOf(const CompactScore& score) const { return games_.Text(score.Game); }
+    const std::string& PlayerOf(const CompactScore& score) const {
+        return players_.Text(score.Player);
+    }
+
+    /// The texts behind `CompactScore::Game` and `CompactScore::Player`.
+    const TextPool& Games() const { return games_; }
+    const TextPool& Players() const { return players_; }
+
+private:
+    std::vector<CompactScore> scores_;
+    TextPool games_;
+    TextPool players_;
+    TextPool oddTexts_;  // dates and numbers of an unusual form
+};
+
+}  // namespace varnello
