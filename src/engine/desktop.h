@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,18 @@ public:
     virtual double Timer() const = 0;
 };
 
+/// How dates are shown. These are the forms of files; a window may follow the user's locale.
+class DateForms {
+public:
+    virtual ~DateForms() = default;
+    virtual std::string Date(const DateTime& moment) const { return ShortDateText(moment); }
+    virtual std::string DateAndTime(const DateTime& moment) const { return DateText(moment); }
+    /// A month's short name; `month` from 1 to 12.
+    virtual std::string Month(int month) const { return std::string(MonthName(month)); }
+};
+
+inline const DateForms kFileDateForms;
+
 /// The playing surface. The engine's `Table` is the truth about what lies where; the surface is
 /// told only when to show it.
 class TableSurface {
@@ -51,6 +64,12 @@ public:
     virtual void Play(Sound event) = 0;
 };
 
+/// A file that the user chose to write to.
+struct ChosenFile {
+    std::filesystem::path Path;
+    std::string Name;  ///< as messages call it
+};
+
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
@@ -61,6 +80,8 @@ public:
     /// A question with a question mark, or with a stop sign where something is lost; true for Yes.
     virtual bool Ask(const std::string& text) = 0;
     virtual bool AskToStop(const std::string& text) = 0;
+    /// A save-file dialog for text files that asks before a file is overwritten; empty on cancel.
+    virtual std::optional<ChosenFile> AskForTextFile(const std::string& proposal) = 0;
     /// The modal game won dialog. While it loads it calls `Engine::LoadFinish`.
     virtual void ShowFinish() = 0;
 };
@@ -72,6 +93,7 @@ struct Desktop {
     SoundPlayer& sounds;
     Dialogs& dialogs;
     std::filesystem::path dataFolder;  ///< `AppDir`
+    const DateForms& dates = kFileDateForms;
 };
 
 }  // namespace varnello

@@ -39,6 +39,7 @@ public:
     void Refuse(const std::string&) override {}
     bool Ask(const std::string&) override { return true; }
     bool AskToStop(const std::string&) override { return true; }
+    std::optional<ChosenFile> AskForTextFile(const std::string&) override { return {}; }
     void ShowFinish() override {}
 };
 

@@ -64,7 +64,8 @@ void ScriptedTable::Run(std::string_view line) {
 void ScriptedTable::Play(std::string_view command, Words& words) {
     const bool known = PlayClock(command, words) || PlayLife(command, words) ||
                        PlayGestures(command, words) || PlayCommands(command, words) ||
-                       Choose(command, words) || Keep(command, words) || Look(command, words);
+                       Choose(command, words) || Keep(command, words) || Look(command, words) ||
+                       ReportOn(command, words);
     if (!known) throw BadLine("unknown command: " + std::string(command));
 }
 

@@ -29,10 +29,15 @@ private:
     bool Choose(std::string_view command, Words& words);
     bool Keep(std::string_view command, Words& words);
     bool Look(std::string_view command, Words& words);
+    bool ReportOn(std::string_view command, Words& words);
 
     void SetClock(Words& words);
     void PlayFavorite(Words& words);
     void RenamePlayer(const std::string& names);
+    void Report(Words& words);
+    bool ReportSums(std::string_view what, Words& words);
+    bool ReportGames(std::string_view what, Words& words);
+    void Export(const std::string& name);
     void SetPlayer(const std::string& name);
     void Press(PicID id);
     void Drag(std::int16_t left, std::int16_t top);

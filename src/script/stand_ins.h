@@ -44,7 +44,9 @@ public:
     void Refuse(const std::string& text) override { Inform(text); }
     bool Ask(const std::string& text) override;
     bool AskToStop(const std::string& text) override { return Ask(text); }
+    std::optional<ChosenFile> AskForTextFile(const std::string&) override { return chosenFile; }
     bool answer = true;
+    std::optional<ChosenFile> chosenFile;
     void ShowFinish() override { finish(); }
     std::function<void()> finish;
 

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <system_error>
 
 #include "engine/common/number_text.h"
 #include "engine/flow/engine.h"
@@ -56,18 +55,6 @@ bool Engine::ClearRecentGames() {
     data.ClearRecent();
     desktop_.dialogs.Inform("Recent Games List has been Cleared.");
     return true;
-}
-
-void Engine::ClearStat() {
-    if (!desktop_.dialogs.Ask("Are you sure you want to clear the Statistics, High Score and Log "
-                              "for all Players and all Games ?")) {
-        return;
-    }
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        std::error_code ignored;
-        std::filesystem::remove(ScorePath(data, data.GetPlayer(slot)), ignored);
-    }
-    desktop_.dialogs.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
 void Engine::AddFavorite() {

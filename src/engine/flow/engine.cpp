@@ -13,7 +13,7 @@ namespace varnello {
 
 Engine::Engine(const Desktop& desktop)
     : data(desktop.settings, desktop.sounds, desktop.dataFolder),
-      score(data, desktop.clock),
+      score(data, desktop.clock, desktop.dates),
       favorites(data),
       selectGame([](cGames& record, const std::string& name) { SelectGame(record, name); }),
       desktop_(desktop),

@@ -88,8 +88,12 @@ public:
 
     /// Empties the recent list after a question; false when it was kept.
     bool ClearRecentGames();
+    // Results.
     /// Deletes the score files of all listed players after a question. The list of this run stays.
     void ClearStat();
+    /// Writes the report over all results to a file that the user chooses, and says so. Silent when
+    /// none is chosen or it can't be written. Closes the score list.
+    void ExportStat();
 
     // Players.
     /// Whether there is room for one more; says so if not.
@@ -119,6 +123,8 @@ public:
 
     std::int16_t CalcScore() const;
     std::int32_t ElapsedTime() const;
+    DateTime Now() const { return desktop_.clock.Now(); }
+    const DateForms& dates() const { return desktop_.dates; }
 
     cData data;
     cGames games;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/reports/record_columns.h"
+#include "engine/scores/score_store.h"
+
+/// The plain log of all games, window "Log Statistics".
+namespace varnello {
+
+extern const RecordFields kLogFields;
+std::vector<Column> LogColumns();
+
+/// How old a game may be. Ages are calendar differences to the present.
+struct AgeChoice {
+    std::string_view Text;
+    std::string_view Key;
+    bool (*Passes)(std::int64_t days, std::int64_t months);
+};
+/// The last one, "all", also lets games pass whose date is odd or in the future.
+std::span<const AgeChoice> AgeChoices();
+
+struct LogFilter {
+    std::string Player;  ///< empty for all
+    std::string Game;    ///< empty for all
+    const AgeChoice* Age = &AgeChoices().back();
+};
+
+/// The positions in the score list, from 0, of the games that pass, in list order.
+std::vector<std::uint32_t> LogPositions(const ScoreList& list, const LogFilter& filter,
+                                        const DateTime& now);
+
+/// What a record of the list sorts by in a column, without working out what the column shows.
+/// Texts sort by alphabet.
+std::function<double(std::uint32_t position)> SortValue(const ScoreList& list, RecordField field);
+
+}  // namespace varnello

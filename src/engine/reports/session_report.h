@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "engine/flow/engine.h"
+#include "engine/reports/record_columns.h"
+
+/// The figures of the window "Session Statistics": this run of the program and the running game.
+namespace varnello {
+
+/// The labels of "This Session", from top to bottom; the last one is the elapsed time.
+std::vector<std::string> SessionLabels(const Engine& engine);
+std::string SessionElapsedLabel(const Engine& engine);
+
+/// The labels of "This Game", from top to bottom; they keep the last figures after a game's end.
+struct GameLabels {
+    std::string Started, Name, Number, Score, Moves, Time, Player;
+
+    std::array<std::string, 7> InOrder() const {
+        return {Started, Name, Number, Score, Moves, Time, Player};
+    }
+};
+GameLabels GameLabelsOf(const Engine& engine);
+
+std::vector<Column> SessionColumns();
+/// A row for each game that has ended and, while a game runs, a last one for that.
+std::vector<ReportRow> SessionRows(const Engine& engine);
+ReportRow RunningSessionRow(const Engine& engine);
+
+/// The same games by number, time, moves and score.
+std::vector<Column> DetailColumns();
+std::vector<ReportRow> DetailRows(const Engine& engine);
+ReportRow RunningDetailRow(const Engine& engine);
+
+}  // namespace varnello

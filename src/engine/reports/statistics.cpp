@@ -1,0 +1,119 @@
+#include "engine/reports/statistics.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/common/calendar.h"
+#include "engine/common/number_text.h"
+#include "engine/common/rounding.h"
+
+namespace varnello {
+namespace {
+
+constexpr std::int32_t kMaxCharted = 50;
+
+double OneForZero(std::int32_t divisor) { return divisor == 0 ? 1.0 : divisor; }
+
+ReportRow SummaryRow(std::string name, const ScoreSummary& summary, double percent) {
+    return {{std::move(name)},         NumberCell(summary.Played), NumberCell(summary.Won),
+            NumberCell(summary.Lost),  TimeCell(summary.Time),     NumberCell(summary.Moves),
+            NumberCell(summary.Score), PercentCell(percent)};
+}
+
+DateTime Step(const DateTime& moment, int count, Interval interval) {
+    switch (interval) {
+        case Interval::Day: return AddDays(moment, count);
+        case Interval::Month: return AddMonths(moment, count);
+        case Interval::Year: break;
+    }
+    return AddYears(moment, count);
+}
+
+}  // namespace
+
+std::vector<std::string> GeneralLines(const ScoreSummary& summary) {
+    const double played = OneForZero(summary.Played);
+    const double time = OneForZero(summary.Time);
+    const auto whole = [](const char* label, double value) {
+        return label + WholeText(std::trunc(value) + 0.0);  // never "-0"
+    };
+    const auto perHour = [&](std::int32_t value) { return value / time * 3600; };
+    return {
+        whole("Games Played : ", summary.Played),
+        whole("Games Won : ", summary.Won),
+        whole("Games Lost : ", summary.Lost),
+        whole("Total Moves : ", summary.Moves),
+        whole("Total Score : ", summary.Score),
+        "Total Time : " + FormatTime(summary.Time),
+        whole("Moves Per Game : ", summary.Moves / played),
+        whole("Score Per Game : ", summary.Score / played),
+        "Time Per Game : " + FormatTime(RoundTo32(summary.Time / played)),
+        whole("Games Per Hour : ", perHour(summary.Played)),
+        whole("Moves Per Hour : ", perHour(summary.Moves)),
+        whole("Score Per Hour : ", perHour(summary.Score)),
+        "Winning Percentage : " + ShortDecimal(RoundHalfEven2(summary.Won / played * 100)) + '%'};
+}
+
+std::vector<ReportRow> GameRows(const cScore& score, const cData& data) {
+    std::vector<ReportRow> rows;
+    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
+        const std::string name = data.GetGName(id);
+        const ScoreSummary summary = score.GameSummary(name);
+        const double wonTimes100 = Saturate32(std::int64_t{summary.Won} * 100);
+        rows.push_back(
+            SummaryRow(name, summary, RoundHalfEven2(wonTimes100 / OneForZero(summary.Played))));
+    }
+    return rows;
+}
+
+std::vector<ReportRow> PlayerRows(const cScore& score, const cData& data) {
+    std::vector<ReportRow> rows;
+    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
+        const std::string name = data.GetPlayer(slot);
+        const ScoreSummary summary = score.PlayerSummary(name);
+        const double part = RoundHalfEven2(summary.Won / OneForZero(summary.Played));
+        rows.push_back(SummaryRow(name, summary, part * 100));
+    }
+    return rows;
+}
+
+std::span<const PeriodChoice> PeriodChoices() {
+    static constexpr PeriodChoice kChoices[] = {
+        {"Last 5 Days", "5d", Interval::Day, 5, "Day"},
+        {"Last 10 Days", "10d", Interval::Day, 10, "Day"},
+        {"Last 30 Days", "30d", Interval::Day, 30, "Day"},
+        {"Last 5 Months", "5m", Interval::Month, 5, "Month"},
+        {"Last 10 Months", "10m", Interval::Month, 10, "Month"},
+        {"Last 5 Years", "5y", Interval::Year, 5, "Year"},
+    };
+    return kChoices;
+}
+
+std::vector<PeriodSummary> PeriodRows(const cScore& score, const PeriodChoice& choice,
+                                      const DateTime& now) {
+    std::vector<DateTime> dates;
+    for (int k = 1 - choice.Rows; k <= 0; ++k) dates.push_back(Step(now, k, choice.interval));
+    return score.PeriodSummaries(dates, choice.interval);
+}
+
+std::vector<ReportRow> PeriodLines(const std::vector<PeriodSummary>& periods) {
+    std::vector<ReportRow> rows;
+    for (const PeriodSummary& period : periods) {
+        rows.push_back({{period.Label, static_cast<double>(rows.size())},
+                        NumberCell(period.Played),
+                        NumberCell(period.Won)});
+    }
+    return rows;
+}
+
+std::vector<GameFigures> FirstGames(const cScore& score, std::string_view game) {
+    const std::int32_t count = std::min(score.GameSummary(game).Played, kMaxCharted);
+    std::vector<GameFigures> games;
+    for (std::int32_t n = 1; n <= count; ++n) {
+        const ScoreRecord record = score.GetGameScore(game, n);
+        games.push_back({record.Score, record.Moves, record.Time});
+    }
+    return games;
+}
+
+}  // namespace varnello

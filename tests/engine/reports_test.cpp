@@ -1,0 +1,267 @@
+#include <algorithm>
+#include <random>
+
+#include "engine/reports/high_scores.h"
+#include "engine/reports/log_report.h"
+#include "engine/reports/session_report.h"
+#include "engine/reports/statistics.h"
+#include "fixture.h"
+
+// What the result windows show, worked out from score files.
+namespace varnello::test {
+namespace {
+
+ScoreRecord Game(int score, int moves = 1, int time = 1, int status = 1,
+                 const std::string& date = "1/31/2026 12:00:00 PM",
+                 const std::string& game = "Freecell") {
+    return {date, game, GameNumber::Number(7), time, moves, score, I16(status), ""};
+}
+
+class Reports : public EngineTest {
+protected:
+    void Write(const std::vector<ScoreRecord>& records, const std::string& player = "Player1") {
+        std::string text;
+        for (const ScoreRecord& record : records) text.append(ScoreLine(record)).append("\r\n");
+        if (engine.data.FindPlayer(player) == 0) engine.data.AddPlayer(player);
+        WriteFile(ScorePath(engine.data, player), text);
+        engine.score.OpenAllScore();
+    }
+    std::vector<int> Ranked(std::int32_t ScoreRecord::*field) {
+        std::vector<int> values;
+        for (std::int16_t place = 1; place <= kTopPlaces; ++place) {
+            const ScoreRecord record = engine.score.GetTopScore(place);
+            if (!record.Date.empty()) values.push_back(record.*field);
+        }
+        return values;
+    }
+    std::string Line(const std::vector<ReportRow>& rows, std::size_t row) const {
+        std::string line;
+        for (const ReportCell& cell : rows.at(row)) line.append(cell.Text).append("|");
+        return line;
+    }
+};
+
+TEST_F(Reports, GeneralFigures) {
+    Write({Game(50, 100, 120)});
+    EXPECT_EQ(GeneralLines(engine.score.AllSummary()),
+              (std::vector<std::string>{
+                  "Games Played : 1", "Games Won : 1", "Games Lost : 0", "Total Moves : 100",
+                  "Total Score : 50", "Total Time : 0:02:00", "Moves Per Game : 100",
+                  "Score Per Game : 50", "Time Per Game : 0:02:00", "Games Per Hour : 30",
+                  "Moves Per Hour : 3000", "Score Per Hour : 1500", "Winning Percentage : 100%"}));
+    Write({Game(-1, 3, 2, 0), Game(0, 0, 3, 0)});
+    const auto lines = GeneralLines(engine.score.AllSummary());
+    EXPECT_EQ(lines[7], "Score Per Game : 0") << "cut towards 0, without a sign";
+    EXPECT_EQ(lines[8], "Time Per Game : 0:00:02") << "2.5 seconds go to the even number";
+    EXPECT_EQ(GeneralLines({}).back(), "Winning Percentage : 0%");
+}
+
+TEST_F(Reports, PercentagesOfGamesHaveDecimalsAndThoseOfPlayersDoNot) {
+    Write({Game(1), Game(1, 1, 1, 0), Game(1, 1, 1, 2)});
+    const auto freecell = static_cast<std::size_t>(engine.data.GetGameID("Freecell") - 1);
+    EXPECT_EQ(Line(GameRows(engine.score, engine.data), freecell),
+              "Freecell|3|1|2|0:00:03|3|3|33.33%|");
+    EXPECT_EQ(Line(PlayerRows(engine.score, engine.data), 0), "Player1|3|1|2|0:00:03|3|3|33%|");
+    EXPECT_EQ(Line(GameRows(engine.score, engine.data), 0), "Avenue|0|0|0|0:00:00|0|0|0%|");
+}
+
+TEST_F(Reports, FirstFiftyGamesAreChartedAsTheyWere) {
+    std::vector<ScoreRecord> games;
+    for (int i = 1; i <= 60; ++i) games.push_back(Game(-i, i, 2 * i));
+    Write(games);
+    const auto charted = FirstGames(engine.score, "Freecell");
+    ASSERT_EQ(charted.size(), 50U);
+    EXPECT_EQ(charted.back(), (GameFigures{-50, 50, 100}));
+    EXPECT_TRUE(FirstGames(engine.score, "Avenue").empty());
+}
+
+TEST_F(Reports, PeriodsFollowTheCalendar) {
+    Write({Game(1), Game(2, 1, 1, 0, "1/1/2026 12:00:00 AM"),
+           Game(4, 1, 1, 1, "12/31/2025 11:59:59 PM"), Game(8, 1, 1, 1, "2/28/2025 1:00:00 AM"),
+           Game(16, 1, 1, 1, "1/32/2026 1:00:00 AM"), Game(32, 1, 1, 1, "2/1/2026 1:00:00 AM")});
+    const DateTime now{.month = 3, .day = 31, .hour = 23};
+    const auto month = engine.score.PeriodSummary({.month = 1, .day = 31}, Interval::Month);
+    EXPECT_EQ(month.Label, "Jan 26");
+    EXPECT_EQ(month.Score, 3);
+    EXPECT_EQ(month.Lost, 1);
+    using Row = std::pair<std::string, int>;
+    const auto scores = [&](std::size_t choice) {
+        std::vector<Row> rows;
+        for (const auto& period : PeriodRows(engine.score, PeriodChoices()[choice], now)) {
+            rows.emplace_back(period.Label, period.Score);
+        }
+        return rows;
+    };
+    EXPECT_EQ(scores(3),
+              (std::vector<Row>{
+                  {"Nov 25", 0}, {"Dec 25", 4}, {"Jan 26", 3}, {"Feb 26", 32}, {"Mar 26", 0}}));
+    EXPECT_EQ(scores(5).back(), (Row{"2026", 35}));
+    EXPECT_EQ(scores(5)[3], (Row{"2025", 12}));
+    EXPECT_EQ(scores(2).size(), 30U);
+    EXPECT_EQ(scores(2).front().first, "Mar 02");
+    EXPECT_EQ(scores(0).back().first, "Mar 31");
+}
+
+TEST_F(Reports, LaterOfEqualScoresRanksHigherAndTwentyHaveRoom) {
+    std::vector<ScoreRecord> games;
+    for (int i = 0; i < 25; ++i) games.push_back(Game(10 + i % 3, i + 1));
+    games.push_back(Game(0));
+    games.push_back(Game(-5));
+    games.push_back(Game(99, 1, 1, 0));
+    Write(games);
+    engine.score.Sort("", "", 1);
+    EXPECT_EQ(Ranked(&ScoreRecord::Moves),
+              (std::vector<int>{24, 21, 18, 15, 12, 9, 6,  3,  23, 20,
+                                17, 14, 11, 8,  5,  2, 25, 22, 19, 16}));
+    engine.score.Sort("", "", 0);
+    EXPECT_EQ(Ranked(&ScoreRecord::Score).front(), 99) << "lost games rank as well";
+    engine.score.Sort("Avenue", "", 0);
+    EXPECT_TRUE(Ranked(&ScoreRecord::Score).empty());
+}
+
+/// The ranking of won games by the plainest means: place by place, entry by entry.
+std::vector<int> SlowFinSort(const std::vector<ScoreRecord>& games,
+                             std::int32_t ScoreRecord::*key) {
+    std::vector<int> top(21, 0);
+    for (const ScoreRecord& game : games) {
+        if (game.Status != 1) continue;
+        for (std::size_t place = 1; place <= 20; ++place) {
+            if (top[place] == 0) {
+                if (game.*key > 0) top[place] = game.*key;
+                break;
+            }
+            if (game.*key > top[place]) continue;
+            for (std::size_t i = 20; i > place; --i) top[i] = top[i - 1];
+            top[place] = game.*key;
+            break;
+        }
+    }
+    return {top.begin() + 1, top.end()};
+}
+
+TEST_F(Reports, RankingsAgreeWithASlowSecondComputation) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 30; ++round) {
+        std::vector<ScoreRecord> games;
+        for (int i = 0; i < 60; ++i) {
+            const auto draw = [&](int low, int high) {
+                return std::uniform_int_distribution(low, high)(random);
+            };
+            games.push_back(Game(draw(-5, 40), draw(-1, 30), draw(0, 50), draw(0, 2)));
+        }
+        Write(games);
+        for (const bool byTime : {true, false}) {
+            const auto key = byTime ? &ScoreRecord::Time : &ScoreRecord::Moves;
+            engine.score.FinSort(byTime, !byTime);
+            auto ranked = Ranked(key);
+            ranked.resize(20, 0);
+            EXPECT_EQ(ranked, SlowFinSort(games, key));
+        }
+        engine.score.Sort("", "", 0);
+        std::reverse(games.begin(), games.end());
+        std::erase_if(games, [](const ScoreRecord& game) { return game.Score <= 0; });
+        std::stable_sort(games.begin(), games.end(),
+                         [](const auto& a, const auto& b) { return a.Score > b.Score; });
+        for (std::int16_t place = 1; place <= std::min<int>(20, I16(int(games.size()))); ++place) {
+            const ScoreRecord& expected = games[static_cast<std::size_t>(place - 1)];
+            EXPECT_EQ(engine.score.GetTopScore(place).Moves, expected.Moves);
+        }
+    }
+}
+
+TEST_F(Reports, LogPassesByCalendarAge) {
+    const DateTime now{.month = 3, .day = 31, .hour = 0, .minute = 0, .second = 1};
+    struct Case {
+        const char* date;
+        const char* passes;  // a letter for each age choice
+    };
+    for (const auto& [date, passes] :
+         {Case{"3/31/2026 11:59:59 PM", "ttttttt"}, Case{"3/30/2026 11:59:59 PM", "ftttttt"},
+          Case{"3/28/2026 1:00:00 AM", "ftttttt"}, Case{"3/27/2026 1:00:00 AM", "ffttttt"},
+          Case{"3/1/2026 1:00:00 AM", "ffftttt"}, Case{"2/28/2026 1:00:00 AM", "ffffttt"},
+          Case{"12/1/2025 1:00:00 AM", "ffffttt"}, Case{"11/30/2025 1:00:00 AM", "ffffftt"},
+          Case{"9/30/2025 1:00:00 AM", "fffffft"}, Case{"4/1/2026 1:00:00 AM", "fffffft"},
+          Case{"31.3.2026", "fffffft"}}) {
+        Write({Game(1, 1, 1, 1, date)});
+        std::string found;
+        for (const AgeChoice& age : AgeChoices()) {
+            const LogFilter filter{.Player = "", .Game = "", .Age = &age};
+            found += LogPositions(engine.score.List(), filter, now).empty() ? 'f' : 't';
+        }
+        EXPECT_EQ(found, passes) << date;
+    }
+}
+
+TEST_F(Reports, ExportKeepsItsColumns) {
+    engine.data.AddPlayer("A name of 25 letters, yes");
+    clock.Set({.month = 11, .day = 8, .hour = 13});
+    Write({Game(100, 300, 700), Game(20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
+    dialogs.chosenFile = ChosenFile{folder.Path() / "report", "report"};
+    engine.ExportStat();
+    EXPECT_EQ(Heard(), "message: Statistics Successfully Exported to report\n");
+    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    const std::string report = ReadFile(folder.Path() / "report");
+    for (const std::string line :
+         {"Varnello Score Board\r\n \r\n*************************\r\n \r\n"
+          "Created By    Player1\r\nCreated Date  11/8/2026 1:00:00 PM\r\n \r\n",
+          "Played        Won           Lost          Time          Moves         Score\r\n"
+          " 2             1             1            0:12:05        350           120 \r\n \r\n "
+          "\r\n",
+          "\r\nA name of 25 letters, yes    0             0             0            0:00:00",
+          "\r\nZoë            2             1             1            0:12:05",
+          "\r\nGame                     Played           Won           Time          Moves         "
+          "Score\r\n",
+          "\r\nBaker's Spider            1                0            0:00:25        50           "
+          " 20 "
+          "\r\n",
+          "\r\nFull Statistics\r\n--------------\r\n",
+          "\r\n1/31/2026     Freecell      Zoë           Won            100           300          "
+          "0:11:40      7 \r\n",
+          "\r\nodd date      Baker's Spid  Zoë           Lost "}) {
+        EXPECT_NE(report.find(line), std::string::npos) << line << "\nin\n" << report;
+    }
+}
+
+TEST_F(Reports, ExportIsSilentWhenItCanNotBe) {
+    engine.ExportStat();
+    dialogs.chosenFile = ChosenFile{folder.Path() / "no folder" / "report", "report"};
+    engine.ExportStat();
+    EXPECT_EQ(Heard(), "");
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "no folder"));
+}
+
+TEST_F(Reports, SessionShowsTheRunningGameLast) {
+    EXPECT_EQ(GameLabelsOf(engine).Started, "Game Started : ");
+    engine.data.Set(keys::Autoplay, 0);
+    Start("Freecell", 5);
+    engine.CloseGame();
+    engine.ClearStat();
+    engine.StartGame("Zodiac", GameNumber::Text("012"));
+    clock.Advance(90);
+    engine.TimeTick();
+    const auto rows = SessionRows(engine);
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(Line(rows, 0), "Freecell|5|Player1|0:00:00|0|Lost|0|");
+    EXPECT_EQ(Line(rows, 1), "Zodiac|012|Player1|0:01:30|0|Running|80|");
+    EXPECT_EQ(Line(DetailRows(engine), 1), "2|0:01:30|0|80|");
+    EXPECT_EQ(SessionLabels(engine)[1], "Games Played : 1") << "the running game doesn't count";
+    engine.CloseGame();
+    EXPECT_EQ(GameLabelsOf(engine).Time, "Time Elapsed : 0:01:30") << "the last figures stay";
+}
+
+TEST_F(Reports, OddFilesAreReadAsFarAsTheyGo) {
+    const std::string good = ScoreLine(Game(1));
+    std::string odd = good + "\n" + std::string(1 << 20, 'x') + "\n" + good + "\r\n\r\n";
+    odd += "\"1/1/2026 1:00:00 AM\",\"a" + std::string("\0b", 2) + "\",1,1,1,1,1\n\"" + good;
+    odd += "\n\"" + std::string(3 << 20, 'g') + "\",\"g\",1,1,1,1,1\n" + good;
+    WriteFile(ScoreFile(), odd);
+    engine.score.OpenAllScore();
+    EXPECT_EQ(engine.score.ScoreTop(), 5);
+    EXPECT_EQ(ReadFile(ScoreFile()), odd) << "a reader changes nothing";
+    engine.score.OpenScore("Player1");
+    EXPECT_EQ(engine.score.ScoreTop(), 10) << "opening again doubles the list";
+    EXPECT_EQ(engine.score.AllSummary().Played, 10);
+}
+
+}  // namespace
+}  // namespace varnello::test
