@@ -163,7 +163,8 @@ QWidget* CustomizeDialog::MakeStatistics() {
     auto* frame = new QGroupBox(QStringLiteral("Game Statistics"));
     auto* row = new QHBoxLayout(frame);
     auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
-    exportStat->setEnabled(false);  // the report doesn't exist yet
+    exportStat->setAutoDefault(false);
+    connect(exportStat, &QPushButton::clicked, this, [this] { engine_.ExportStat(); });
     auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
     clearStat->setAutoDefault(false);
     connect(clearStat, &QPushButton::clicked, this, [this] { engine_.ClearStat(); });

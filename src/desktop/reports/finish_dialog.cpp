@@ -7,8 +7,8 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
-#include "desktop/modules/chart_module.h"
 #include "desktop/platform/text.h"
+#include "desktop/reports/report_charts.h"
 
 namespace varnello {
 namespace {
@@ -49,8 +49,10 @@ QWidget* FinishDialog::MakeToolbar() {
     choose(button("new", "New Game"), FinishChoice::NewGame);
     choose(button("select", "Select Game"), FinishChoice::SelectGame);
     choose(button("restart", "Restart Game"), FinishChoice::RestartGame);
-    button("statistics", "Statistics")->setEnabled(false);
-    button("highscore", "High Score")->setEnabled(false);
+    connect(button("statistics", "Statistics"), &QToolButton::clicked, this,
+            &FinishDialog::StatisticsAsked);
+    connect(button("highscore", "High Score"), &QToolButton::clicked, this,
+            &FinishDialog::HighScoreAsked);
     choose(button("close", "Close"), FinishChoice::Close);
     row->addStretch();
     return strip;
@@ -68,16 +70,10 @@ QWidget* FinishDialog::MakeResult(const FinishFigures& figures) {
     list->setAccessibleName(QStringLiteral("Result"));
     row->addWidget(list);
 
-    if (ChartModule* charts = Charts()) {
-        Chart* chart = charts->NewChart(ChartKind::Totals, frame);
-        chart->Show({{QStringLiteral("Score"), QStringLiteral("Moves"), QStringLiteral("Time")},
-                     {{static_cast<double>(figures.Score), static_cast<double>(figures.Moves),
-                       static_cast<double>(figures.Time)}},
-                     {}});
-        chart->setMinimumSize(kChartSize);
-        chart->setAccessibleName(QStringLiteral("Score, moves and time as columns"));
-        row->addWidget(chart);
-    }
+    Chart* chFin = MakeChart(ChartKind::Totals, QStringLiteral("Score, moves and time as columns"));
+    chFin->setMinimumSize(kChartSize);
+    ShowTotals(*chFin, figures.Score, figures.Moves, figures.Time);
+    row->addWidget(chFin);
     return frame;
 }
 

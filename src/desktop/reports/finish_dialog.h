@@ -18,6 +18,11 @@ public:
 
     FinishChoice Choice() const { return choice_; }
 
+Q_SIGNALS:
+    /// The window over all results, or the rankings; the dialog stays open beneath.
+    void StatisticsAsked();
+    void HighScoreAsked();
+
 private:
     QWidget* MakeToolbar();
     QWidget* MakeResult(const FinishFigures& figures);

@@ -31,13 +31,6 @@ void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const
     items.at(static_cast<std::size_t>(index)) = item;
 }
 
-template <std::size_t N>
-void MainMenu::AddDisabled(QMenu* menu, std::array<QAction*, N>& items, int index,
-                           const QString& caption, const QKeySequence& key) {
-    Add(menu, items, index, caption, key, [] {});
-    items.at(static_cast<std::size_t>(index))->setEnabled(false);
-}
-
 void MainMenu::BuildFile() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&File"));
     Add(menu, file_, 1, QStringLiteral("&New Game"), Qt::Key_F2, [this] { engine_.NewGame(); });
@@ -109,12 +102,15 @@ void MainMenu::BuildFavorites() {
 
 void MainMenu::BuildStatistics() {
     QMenu* menu = bar_.addMenu(QStringLiteral("Statistics"));
-    AddDisabled(menu, stat_, 1, QStringLiteral("&Game Statistics"), Qt::Key_F4);
-    AddDisabled(menu, stat_, 2, QStringLiteral("&Session Statistics"));
+    Add(menu, stat_, 1, QStringLiteral("&Game Statistics"), Qt::Key_F4,
+        [this] { shell_.ShowGameStat(); });
+    Add(menu, stat_, 2, QStringLiteral("&Session Statistics"), {},
+        [this] { shell_.ShowSesStat(); });
     menu->addSeparator();
-    AddDisabled(menu, stat_, 4, QStringLiteral("&High Scores"), Qt::Key_F9);
+    Add(menu, stat_, 4, QStringLiteral("&High Scores"), Qt::Key_F9,
+        [this] { shell_.ShowHighScore(); });
     menu->addSeparator();
-    AddDisabled(menu, stat_, 6, QStringLiteral("&Log Statistics"));
+    Add(menu, stat_, 6, QStringLiteral("&Log Statistics"), {}, [this] { shell_.ShowLogStat(); });
 }
 
 void MainMenu::BuildTools() {

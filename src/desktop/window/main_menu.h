@@ -17,6 +17,10 @@ public:
     virtual void ShowChoose() = 0;
     virtual void ShowOrganizeFavorites() = 0;
     virtual void ShowPlayFavorites() = 0;
+    virtual void ShowGameStat() = 0;
+    virtual void ShowSesStat() = 0;
+    virtual void ShowHighScore() = 0;
+    virtual void ShowLogStat() = 0;
     virtual void ShowCustomize() = 0;
     virtual void ShowPlayers() = 0;
     virtual void ShowHistory() = 0;
@@ -63,10 +67,6 @@ private:
     template <std::size_t N, typename Action>
     void Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
              const QKeySequence& key, Action&& action);
-    /// An item whose window doesn't exist yet.
-    template <std::size_t N>
-    void AddDisabled(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
-                     const QKeySequence& key = {});
 
     QMenuBar& bar_;
     Engine& engine_;

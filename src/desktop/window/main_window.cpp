@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/favorites_dialogs.h"
@@ -14,7 +17,11 @@
 #include "desktop/help/pages.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
+#include "desktop/reports/game_stat_dialog.h"
+#include "desktop/reports/high_score_dialog.h"
 #include "desktop/reports/history_dialog.h"
+#include "desktop/reports/log_dialog.h"
+#include "desktop/reports/session_dialog.h"
 
 namespace varnello {
 namespace {
@@ -28,8 +35,8 @@ constexpr int kReplayStep = 500;
 }  // namespace
 
 MainWindow::MainWindow(const System& system) : table_(new TableView) {
-    engine_ = std::make_unique<Engine>(
-        Desktop{system.settings, system.clock, *table_, system.sounds, *this, system.dataFolder});
+    engine_ = std::make_unique<Engine>(Desktop{system.settings, system.clock, *table_,
+                                               system.sounds, *this, system.dataFolder, dates_});
     table_->SetEngine(engine_.get());
 
     auto* client = new QWidget;
@@ -159,6 +166,14 @@ void MainWindow::ShowHistory() {
     if (engine_->data.GameRunning) HistoryDialog(engine_->trans(), this).exec();
 }
 
+void MainWindow::ShowGameStat() { GameStatDialog(*engine_, Front()).exec(); }
+
+void MainWindow::ShowSesStat() { SessionDialog(*engine_, this).exec(); }
+
+void MainWindow::ShowHighScore() { HighScoreDialog(*engine_, Front()).exec(); }
+
+void MainWindow::ShowLogStat() { LogDialog(*engine_, this).exec(); }
+
 void MainWindow::ShowHelp() {
     ShowRules(engine_->data.GameRunning ? engine_->data.CurGName() : std::string());
 }
@@ -196,6 +211,18 @@ bool MainWindow::AskToStop(const std::string& text) {
     return answer == QMessageBox::Yes;
 }
 
+std::optional<ChosenFile> MainWindow::AskForTextFile(const std::string& proposal) {
+    QFileDialog dialog(Front(), QStringLiteral("Export Statistics"),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       QStringLiteral("Text File (*.txt)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);  // asks before it overwrites
+    dialog.selectFile(ToQt(proposal));
+    if (dialog.exec() != QDialog::Accepted) return {};
+    const QString file = dialog.selectedFiles().value(0);
+    return ChosenFile{.Path = file.toStdU16String(),
+                      .Name = QDir::toNativeSeparators(file).toStdString()};
+}
+
 void MainWindow::ShowCustomize() {
     if (CustomizeDialog(*engine_, this).exec() != QDialog::Accepted) return;
     table_->RefreshBackground();
@@ -206,6 +233,8 @@ void MainWindow::ShowFinish() {
     FinishChoice choice = FinishChoice::Close;
     {
         FinishDialog dialog(engine_->LoadFinish(), this);
+        connect(&dialog, &FinishDialog::StatisticsAsked, this, &MainWindow::ShowGameStat);
+        connect(&dialog, &FinishDialog::HighScoreAsked, this, &MainWindow::ShowHighScore);
         dialog.exec();
         choice = dialog.Choice();
     }

@@ -7,6 +7,7 @@
 
 #include "desktop/choosers/select_dialog.h"
 #include "desktop/help/help_window.h"
+#include "desktop/platform/dates.h"
 #include "desktop/window/main_menu.h"
 #include "desktop/window/table_view.h"
 #include "desktop/window/toolbar.h"
@@ -44,6 +45,7 @@ public:
     void Refuse(const std::string& text) override;
     bool Ask(const std::string& text) override;
     bool AskToStop(const std::string& text) override;
+    std::optional<ChosenFile> AskForTextFile(const std::string& proposal) override;
     void ShowFinish() override;
 
 Q_SIGNALS:
@@ -61,6 +63,10 @@ private:
     void ShowPlayFavorites() override;
     void ShowPlayers() override;
     void ShowHistory() override;
+    void ShowGameStat() override;
+    void ShowSesStat() override;
+    void ShowHighScore() override;
+    void ShowLogStat() override;
     void ShowCustomize() override;
     void ShowHelp() override;
     void ShowContents() override { ShowRules({}); }
@@ -76,6 +82,7 @@ private:
     void OnReplayTimers();
     void StartTimers();
 
+    LocaleDates dates_;
     TableView* table_;
     std::unique_ptr<Engine> engine_;
     std::unique_ptr<MainMenu> menu_;

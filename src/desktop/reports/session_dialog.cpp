@@ -1,0 +1,160 @@
+#include "desktop/reports/session_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/appearance/icons.h"
+#include "desktop/platform/text.h"
+
+namespace varnello {
+namespace {
+
+constexpr QSize kSize(880, 640);
+constexpr int kTick = 500;         // milliseconds
+constexpr int kDetailWidth = 330;  // pixels
+
+/// Dark red for the running game; lighter where the list is dark.
+QColor RunningColour(const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    return dark ? QColor(255, 138, 128) : QColor(120, 0, 0);
+}
+
+/// The columns of a list that a tick sets anew: time and score.
+constexpr int kSessionTime = 3;
+constexpr int kSessionScore = 6;
+constexpr int kDetailTime = 1;
+constexpr int kDetailScore = 3;
+
+QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
+    auto* label = new QLabel(ToQt(text));
+    rows->addWidget(label);
+    return label;
+}
+
+}  // namespace
+
+SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
+    : QDialog(parent),
+      engine_(engine),
+      SSTab1_(new QTabWidget),
+      lvSession_(new RowsModel(SessionColumns())),
+      lvSesChart_(new RowsModel(DetailColumns())),
+      sessionView_(new ReportView(lvSession_, QStringLiteral("Games of this session"))),
+      detailView_(new ReportView(lvSesChart_, QStringLiteral("Games of this session by figures"))),
+      chSummary_(MakeChart(ChartKind::Share, QStringLiteral("Games won and lost"))),
+      chChart_(MakeChart(ChartKind::Rows, QStringLiteral("Score, moves and time game by game"))),
+      running_(engine.data.GameRunning) {
+    setWindowTitle(QStringLiteral("Session Statistics"));
+    setWindowIcon(SmallIcon(QStringLiteral("statistics")));
+    SSTab1_->addTab(MakeSummary(), QStringLiteral("Summary"));
+    SSTab1_->addTab(MakeDetails(), QStringLiteral("Session Details"));
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(SSTab1_);
+    all->addWidget(buttons);
+    resize(kSize);
+
+    lvSession_->SetIcon(SmallIcon(QStringLiteral("game")));
+    if (running_) {
+        lvSession_->SetColouredRow(engine.score.SesTop(), RunningColour(palette()));
+        lvSesChart_->SetColouredRow(engine.score.SesTop(), RunningColour(palette()));
+    }
+    lvSession_->SetRows(SessionRows(engine));
+    lvSesChart_->SetRows(DetailRows(engine));
+    ShowShare(*chSummary_, engine.score.SesSummary());
+    FillTable();
+    ShowFigures(*chChart_, table_);
+    if (running_) {
+        sessionView_->scrollToBottom();
+        detailView_->scrollToBottom();
+    }
+    connect(&Timer1_, &QTimer::timeout, this, &SessionDialog::Tick);
+    Timer1_.start(kTick);
+}
+
+QWidget* SessionDialog::MakeThisSession() {
+    auto* frame = new QGroupBox(QStringLiteral("This Session"));
+    auto* rows = new QVBoxLayout(frame);
+    for (const std::string& text : SessionLabels(engine_))
+        lblSesElapsedTime_ = AddLabel(rows, text);
+    rows->addStretch();
+    return frame;
+}
+
+QWidget* SessionDialog::MakeThisGame() {
+    auto* frame = new QGroupBox(QStringLiteral("This Game"));
+    auto* rows = new QVBoxLayout(frame);
+    const GameLabels labels = GameLabelsOf(engine_);
+    AddLabel(rows, labels.Started);
+    AddLabel(rows, labels.Name);
+    AddLabel(rows, labels.Number);
+    lblGameScore_ = AddLabel(rows, labels.Score);
+    AddLabel(rows, labels.Moves);
+    lblGameTime_ = AddLabel(rows, labels.Time);
+    AddLabel(rows, labels.Player);
+    rows->addStretch();
+    return frame;
+}
+
+QWidget* SessionDialog::MakeSummary() {
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    auto* top = new QHBoxLayout;
+    top->addWidget(MakeThisSession(), 1);
+    top->addWidget(MakeThisGame(), 1);
+    top->addWidget(chSummary_, 1);
+    column->addLayout(top);
+    column->addWidget(sessionView_, 1);
+    return page;
+}
+
+QWidget* SessionDialog::MakeDetails() {
+    auto* page = new QWidget;
+    auto* row = new QHBoxLayout(page);
+    detailView_->setFixedWidth(kDetailWidth);
+    auto* cmdRefresh = new QPushButton(QStringLiteral("Refresh Chart"));
+    cmdRefresh->setAutoDefault(false);
+    connect(cmdRefresh, &QPushButton::clicked, this, &SessionDialog::RefreshChart);
+    auto* right = new QVBoxLayout;
+    right->addWidget(chChart_, 1);
+    right->addWidget(cmdRefresh, 0, Qt::AlignRight);
+    row->addWidget(detailView_);
+    row->addLayout(right, 1);
+    return page;
+}
+
+void SessionDialog::FillTable() {
+    table_.clear();
+    for (std::int16_t i = 1; i <= engine_.score.SesTop(); ++i) {
+        const ScoreRecord game = engine_.score.GetSes(i);
+        table_.push_back({game.Score, game.Moves, game.Time});
+    }
+    if (!running_) return;
+    const cData& data = engine_.data;
+    table_.push_back({data.CurScore, data.CurMoves, data.CurTime});
+}
+
+void SessionDialog::Tick() {
+    lblSesElapsedTime_->setText(ToQt(SessionElapsedLabel(engine_)));
+    if (!running_ || !engine_.data.GameRunning) return;
+    const int row = static_cast<int>(table_.size()) - 1;
+    lvSession_->UpdateRow(row, RunningSessionRow(engine_), {kSessionTime, kSessionScore});
+    lvSesChart_->UpdateRow(row, RunningDetailRow(engine_), {kDetailTime, kDetailScore});
+    const GameLabels labels = GameLabelsOf(engine_);
+    lblGameScore_->setText(ToQt(labels.Score));
+    lblGameTime_->setText(ToQt(labels.Time));
+}
+
+void SessionDialog::RefreshChart() {
+    if (!running_ || !engine_.data.GameRunning) return;
+    const cData& data = engine_.data;
+    table_.back() = {data.CurScore, data.CurMoves, data.CurTime};
+    ShowFigures(*chChart_, table_);
+}
+
+}  // namespace varnello

@@ -1,0 +1,204 @@
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <fstream>
+
+#include "desktop/reports/finish_dialog.h"
+#include "desktop/reports/game_stat_dialog.h"
+#include "desktop/reports/high_score_dialog.h"
+#include "desktop/reports/log_dialog.h"
+#include "desktop/reports/session_dialog.h"
+#include "fixture.h"
+
+// The windows that show results, opened by their menu items.
+using namespace varnello;
+
+namespace {
+
+/// The child with this accessible name.
+template <typename Widget>
+Widget* Named(const QWidget& window, const QString& name) {
+    for (Widget* child : window.findChildren<Widget*>()) {
+        if (child->accessibleName() == name) return child;
+    }
+    qFatal("no child called %s", qPrintable(name));
+}
+
+template <typename Button = QAbstractButton>
+Button* Captioned(const QWidget& window, const QString& caption) {
+    for (Button* child : window.findChildren<Button*>()) {
+        if (child->text() == caption) return child;
+    }
+    qFatal("no button %s", qPrintable(caption));
+}
+
+QString CellText(const ReportView& view, int row, int column) {
+    return view.model()->index(row, column).data().toString();
+}
+
+QStringList ColumnTexts(const ReportView& view, int column) {
+    QStringList texts;
+    for (int row = 0; row < view.model()->rowCount(); ++row) texts << CellText(view, row, column);
+    return texts;
+}
+
+void Choose(QComboBox& combo, const QString& text) {
+    combo.setCurrentText(text);
+    Q_EMIT combo.activated(combo.currentIndex());
+}
+
+class ResultsFixture : public WindowFixture {
+public:
+    explicit ResultsFixture(const std::string& lines) {
+        std::ofstream(Folder() + "/Player1.sre") << lines;
+    }
+};
+
+constexpr const char* kLines =
+    "\"11/22/2026 1:00:00 PM\",\"Freecell\",7,120,100,50,1\n"
+    "\"11/20/2026 1:00:00 PM\",\"Freecell\",\"012\",9,90,80,0\n"
+    "\"10/2/2026 1:00:00 PM\",\"Penguin\",100,1000,8,9,1\n";
+
+}  // namespace
+
+class ReportsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ListsSortByValueAndReturnToTheirOrder() {
+        ResultsFixture fixture(kLines);
+        WhenOpen<LogDialog>([](LogDialog& dialog) {
+            auto* log = Named<ReportView>(dialog, "Log");
+            const QStringList order{"7", "012", "100"};
+            QCOMPARE(ColumnTexts(*log, 8), order);
+            log->selectRow(2);
+            QTest::mouseClick(log->horizontalHeader()->viewport(), Qt::LeftButton, {},
+                              {log->columnViewportPosition(8) + 9, 9});
+            QCOMPARE(ColumnTexts(*log, 8), (QStringList{"7", "012", "100"}));
+            log->sortByColumn(5, Qt::AscendingOrder);
+            QCOMPARE(ColumnTexts(*log, 5), (QStringList{"8", "90", "100"}));
+            QCOMPARE(log->currentIndex().row(), 0);
+            log->sortByColumn(7, Qt::DescendingOrder);
+            QCOMPARE(ColumnTexts(*log, 0), (QStringList{"1", "2", "3"}));
+            log->sortByColumn(2, Qt::DescendingOrder);
+            QCOMPARE(CellText(*log, 0, 2), "Penguin");
+            log->sortByColumn(-1, Qt::AscendingOrder);
+            QCOMPARE(ColumnTexts(*log, 8), order);
+            log->sortByColumn(3, Qt::AscendingOrder);
+            Choose(*Named<QComboBox>(dialog, "Time"), "Last 3 Days");
+            QCOMPARE(ColumnTexts(*log, 3), (QStringList{"50", "80"}));
+            Choose(*Named<QComboBox>(dialog, "Game"), "Penguin");
+            QCOMPARE(log->model()->rowCount(), 0);
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(6)->trigger();
+        QCOMPARE(fixture.engine().score.ScoreTop(), 0);
+    }
+
+    void StatisticsKeepTheirFiguresWhenClearedAndReloadAfterAnExport() {
+        ResultsFixture fixture(kLines);
+        const QString file = fixture.folder.path() + "/board";
+        QStringList told;
+        WhenOpen<GameStatDialog>([&](GameStatDialog& dialog) {
+            auto* games = Named<QComboBox>(dialog, "Game shown in the charts");
+            auto* chart = Named<Chart>(dialog, "Won and lost of the game");
+            Choose(*games, "Freecell");
+            QVERIFY(chart->accessibleDescription().contains("Lost : 1"));
+            WhenOpen<QFileDialog>([&](QFileDialog& files) {
+                files.selectFile(file);
+                WhenOpen<QMessageBox>([&](QMessageBox& box) {
+                    told << box.text();
+                    box.button(QMessageBox::Ok)->click();
+                });
+                QMetaObject::invokeMethod(&files, "accept");
+            });
+            Captioned(dialog, "Export Statistics")->click();
+            Choose(*games, "Penguin");
+            QVERIFY(chart->accessibleDescription().contains("Won : 1"));
+            Choose(*Named<QComboBox>(dialog, "Time shown"), "Last 5 Months");
+            auto* dates = Named<ReportView>(dialog, "Days, months or years");
+            QCOMPARE(dates->model()->headerData(0, Qt::Horizontal).toString(), "Month");
+            QCOMPARE(ColumnTexts(*dates, 1), (QStringList{"0", "0", "0", "1", "2"}));
+            WhenOpen<QMessageBox>([](QMessageBox& box) {
+                WhenOpen<QMessageBox>([](QMessageBox& done) { done.accept(); });
+                box.button(QMessageBox::Yes)->click();
+            });
+            Captioned(dialog, "Clear Statistics")->click();
+            Choose(*games, "Freecell");
+            QVERIFY(chart->accessibleDescription().contains("Won : 1"));
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(1)->trigger();
+        QCOMPARE(told, QStringList{"Statistics Successfully Exported to " + file});
+        QVERIFY(QFile::exists(file));
+        QVERIFY(!QFile::exists(QString::fromStdString(fixture.Folder()) + "/Player1.sre"));
+    }
+
+    void RankingsFollowTheirFilters() {
+        ResultsFixture fixture(kLines);
+        WhenOpen<HighScoreDialog>([](HighScoreDialog& dialog) {
+            QCOMPARE(ColumnTexts(*Named<ReportView>(dialog, "Top games"), 3),
+                     (QStringList{"80", "50", "9"}));
+            Choose(*Named<QComboBox>(dialog, "Game"), "Penguin");
+            QCOMPARE(Named<ReportView>(dialog, "Best of the game")->model()->rowCount(), 1);
+            Choose(*Named<QComboBox>(dialog, "Ranked by"), "Moves");
+            auto* won = Named<ReportView>(dialog, "Best won games");
+            QCOMPARE(ColumnTexts(*won, 5), (QStringList{"8", "100"}));
+            QVERIFY(won->model()->index(0, 5).data(Qt::FontRole).value<QFont>().bold());
+            QVERIFY(!won->model()->index(0, 3).data(Qt::FontRole).value<QFont>().bold());
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(4)->trigger();
+    }
+
+    void TheRunningGameIsLive() {
+        WindowFixture fixture;
+        fixture.StartWithoutAutoplay("Freecell");
+        fixture.engine().EndGame(0);
+        fixture.Start("Freecell", 2);
+        WhenOpen<SessionDialog>([&](SessionDialog& dialog) {
+            const auto close = qScopeGuard([&] { dialog.reject(); });
+            auto* games = Named<ReportView>(dialog, "Games of this session");
+            QCOMPARE(ColumnTexts(*games, 5), (QStringList{"Lost", "Running"}));
+            games->selectRow(1);
+            fixture.clock.now.minute += 1;
+            QTRY_COMPARE(CellText(*games, 1, 3), "0:01:00");
+            QTRY_COMPARE(CellText(*games, 1, 6), "-20");
+            QCOMPARE(games->currentIndex().row(), 1);
+            auto* chart = Named<Chart>(dialog, "Score, moves and time game by game");
+            QVERIFY(!chart->accessibleDescription().contains("60"));
+            Captioned(dialog, "Refresh Chart")->click();
+            QVERIFY(chart->accessibleDescription().contains("60"));
+            Captioned<QLabel>(dialog, "Score : -20");
+            Captioned<QLabel>(dialog, "Games Played : 1");
+        });
+        fixture.window.menu().mStat(2)->trigger();
+    }
+
+    void TheWonDialogShowsTheWinInBothWindows() {
+        WindowFixture fixture;
+        fixture.Start("Freecell");
+        fixture.engine().data.CurScore = 77;
+        WhenOpen<FinishDialog>([](FinishDialog& finish) {
+            WhenOpen<GameStatDialog>([](GameStatDialog& dialog) {
+                auto* games = Named<ReportView>(dialog, "Games");
+                QVERIFY(ColumnTexts(*games, 2).contains("1"));
+                dialog.reject();
+            });
+            Captioned(finish, "Statistics")->click();
+            WhenOpen<HighScoreDialog>([](HighScoreDialog& dialog) {
+                QCOMPARE(CellText(*Named<ReportView>(dialog, "Top games"), 0, 3), "77");
+                dialog.reject();
+            });
+            Captioned(finish, "High Score")->click();
+            finish.reject();
+        });
+        fixture.window.ShowFinish();
+        QVERIFY(!fixture.engine().data.GameRunning);
+    }
+};
+
+QTEST_MAIN(ReportsTest)
+#include "reports_test.moc"
