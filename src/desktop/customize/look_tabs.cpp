@@ -4,6 +4,7 @@
 #include "desktop/appearance/colours.h"
 #include "desktop/appearance/looks.h"
 #include "desktop/customize/customize_dialog.h"
+#include "desktop/customize/look_icons.h"
 
 // The tabs "Background" and "Decks": trees whose items carry the number of a look.
 namespace varnello {
@@ -12,24 +13,29 @@ namespace {
 constexpr int kTag = Qt::UserRole;
 
 /// Adds an item with its number, and selects it if it is the chosen one.
-void AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QString& text, int tag, int chosen) {
+void AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QString& text, int tag, int chosen,
+             const QIcon& icon) {
     auto* item = new QTreeWidgetItem(parent, {text});
     item->setData(0, kTag, tag);
+    item->setIcon(0, icon);
     if (tag != chosen) return;
     for (QTreeWidgetItem* node = parent; node; node = node->parent()) node->setExpanded(true);
     tree->setCurrentItem(item);
 }
 
-void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups,
-               int chosen) {
+void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups, int chosen,
+               QIcon (*iconOf)(int)) {
     for (const LookGroup& group : groups) {
         auto* node = new QTreeWidgetItem(root, {group.name});
         int number = 0;
         for (const int id : group.ids) {
-            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen);
+            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen,
+                    iconOf(id));
         }
     }
 }
+
+QIcon TileIcon(int id) { return BackgroundIcon({.bgIndex = id}); }
 
 QVariant TagOf(const QTreeWidgetItem* item) { return item ? item->data(0, kTag) : QVariant(); }
 
@@ -70,12 +76,15 @@ QWidget* CustomizeDialog::MakeBackground() {
 void CustomizeDialog::FillBackgrounds() {
     QTreeWidgetItem* root = Root(tvBGround_, QStringLiteral("Backgrounds"));
     auto* colors = new QTreeWidgetItem(root, {QStringLiteral("Colors")});
-    AddItem(tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground,
-            background_.bgIndex);
+    AddItem(
+        tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground, background_.bgIndex,
+        BackgroundIcon(
+            {.bgIndex = kCustomBackground, .fade = false, .customColor = background_.customColor}));
     for (int id = kFirstOfferedColour; id <= kLastOfferedColour; ++id) {
-        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
+        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex,
+                BackgroundIcon({.bgIndex = id, .fade = false}));
     }
-    AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
+    AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex, TileIcon);
 }
 
 void CustomizeDialog::UpdateColorControls(bool hasTag) {
@@ -104,7 +113,7 @@ QWidget* CustomizeDialog::MakeDecks() {
 }
 
 void CustomizeDialog::FillDecks() {
-    AddGroups(tvDeck_, Root(tvDeck_, QStringLiteral("Decks")), DeckGroups(), deck_);
+    AddGroups(tvDeck_, Root(tvDeck_, QStringLiteral("Decks")), DeckGroups(), deck_, DeckIcon);
 }
 
 void CustomizeDialog::ChooseDeck() {
