@@ -1,5 +1,7 @@
 #include "engine/rules/gestures.h"
 
+#include <algorithm>
+
 #include "engine/common/rounding.h"
 #include "engine/rules/stacks.h"
 #include "engine/rules/stock.h"
@@ -63,7 +65,10 @@ void Gestures::Settle(PicID id) {
     for (std::int16_t pos = at.Pos; pos <= field_.array.GetTop(at.Cell, at.Pile); ++pos) {
         const PicID card = field_.array.GetPicID(at.Cell, at.Pile, pos);
         const Place place{at.Cell, at.Pile, pos};
-        field_.table.Card(card).MoveTo(field_.array.GetCordX(place), field_.array.GetCordY(place));
+        // Only closed cards below it count: an undo may have closed it and others on it.
+        const auto closed = std::min(field_.array.ClosedCards(at.Pile), pos);
+        field_.table.Card(card).MoveTo(field_.games.GetCordX(place, closed),
+                                       field_.games.GetCordY(place, closed));
         field_.table.BringToFront(card);
     }
 }
