@@ -1,0 +1,115 @@
+#!/usr/bin/env bash
+# check-mutants.sh [WORK_FOLDER [PATTERN]]: whether the tests notice faults.
+# Puts the faults of mutants.txt into a copy of the sources, one at a time, and runs the engine's
+# tests, the golden scripts and the won games until one fails. PATTERN, a part of a file's name,
+# picks mutants. A work folder given is kept, so that the next run builds less.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+work=${1:-$(mktemp -d)}
+pattern=${2:-}
+source=$work/source build=$work/build log=$work/log
+[ $# -gt 0 ] || trap 'rm -rf "$work"' EXIT
+
+# The mutants: where, the original text and what takes its place.
+files=() originals=() replacements=()
+
+fail() {
+    echo "$*" >&2
+    exit 2
+}
+
+# How often the text $2 stands in the text $1: 0, 1, or 2 for more.
+count() {
+    local rest=${1#*"$2"}
+    if [ "$rest" = "$1" ]; then echo 0; elif [[ $rest == *"$2"* ]]; then echo 2; else echo 1; fi
+}
+
+add_mutant() {
+    [ -n "$original" ] || return 0
+    [ "$(count "$(<"$root/src/engine/$file")" "$original")" = 1 ] ||
+        fail "This doesn't stand exactly once in $file:"$'\n'"$original"
+    if [[ $file == *"$pattern"* ]]; then
+        files+=("$file") originals+=("$original") replacements+=("$replacement")
+    fi
+    original='' replacement=''
+}
+
+read_mutants() {
+    local line file='' original='' replacement=''
+    while IFS= read -r line; do
+        case $line in
+            '@ '*) add_mutant && file=${line#@ } ;;
+            '-'*) line=${line#-} original+=${original:+$'\n'}${line# } ;;
+            '+'*) line=${line#+} replacement+=${replacement:+$'\n'}${line# } ;;
+            '') add_mutant ;;
+            '#'*) ;;
+            *) fail "mutants.txt: $line" ;;
+        esac
+    done <"$root/tests/mutation/mutants.txt"
+    add_mutant
+}
+
+copy_sources() {
+    local path
+    # A file that has changed, be it by an interrupted run, is built anew; others aren't.
+    while IFS= read -r -d '' path; do
+        [ ! -e "$root/$path" ] || cmp -s "$root/$path" "$source/$path" ||
+            install -D "$root/$path" "$source/$path"
+    done < <(cd "$root" && git ls-files -z -co --exclude-standard src tests CMakeLists.txt)
+    sed -i 's/ -Werror//' "$source/CMakeLists.txt"  # a fault may leave something unused
+    cmake -S "$source" -B "$build" -G Ninja -DVARNELLO_DESKTOP=OFF -DVARNELLO_BENCH=OFF >"$log"
+}
+
+build_tests() { ninja -C "$build" varnello-engine-tests varnello-script-sanitized >"$log" 2>&1; }
+
+# Prints the name of the first test that fails; fails itself when none does.
+first_failure() {
+    local program=$build/src/script/varnello-script-sanitized name script
+    if ! timeout 60 "$build/tests/engine/varnello-engine-tests" --gtest_fail_fast >"$log" 2>&1; then
+        # A crash leaves no verdict, only the name of the test that was running.
+        sed -n 's/^\[  FAILED  \] \([^ ,]*\).*/\1/p' "$log" | head -n 1 | grep . ||
+            sed -n 's/^\[ RUN      \] \(.*\)/\1/p' "$log" | tail -n 1
+        return 0
+    fi
+    for script in "$root"/tests/scripts/*.script; do
+        name=$(basename "$script" .script)
+        timeout 60 cmake -D PROGRAM="$program" -D SCRIPT="$script" -D FOLDER="$work/data" \
+            -D EXPECTED="${script%.script}.expected" -P "$root/tests/scripts/compare.cmake" \
+            >"$log" 2>&1 || { echo "script.$name" && return 0; }
+    done
+    local wins=("$root"/tests/wins/*.script)
+    timeout 120 cmake -D PROGRAM="$program" -D FOLDER="$work/data" \
+        -D SCRIPTS="$(IFS=';' && echo "${wins[*]}")" -P "$root/tests/wins/play.cmake" \
+        >"$log" 2>&1 || { echo wins && return 0; }
+    return 1
+}
+
+# Prints what became of mutant $1; fails when it survives.
+try_mutant() {
+    local file=${files[$1]} original=${originals[$1]} replacement=${replacements[$1]} content line
+    content=$(<"$root/src/engine/$file")
+    line=$(printf '%s' "${content%%"$original"*}" | wc -l)
+    printf '%s\n' "${content/"$original"/"$replacement"}" >"$source/src/engine/$file"
+    build_tests || { cat "$log" >&2 && fail "The mutant of $file:$((line + 1)) doesn't build."; }
+    local verdict=0 name
+    name=$(first_failure) || verdict=1
+    cp "$root/src/engine/$file" "$source/src/engine/$file"
+    if [ "$verdict" = 0 ]; then
+        printf 'killed    %-34s %s\n' "$file:$((line + 1))" "$name"
+    else
+        printf 'SURVIVED  %s\n' "$file:$((line + 1))"
+        diff <(echo "$original") <(echo "$replacement") | sed -n 's/^\([<>]\)/    \1/p'
+    fi
+    return "$verdict"
+}
+
+read_mutants
+copy_sources
+build_tests || { cat "$log" >&2 && fail "The sources don't build."; }
+! name=$(first_failure) || fail "Without any mutant, $name fails."
+survivors=0
+for i in "${!files[@]}"; do
+    try_mutant "$i" || survivors=$((survivors + 1))
+done
+echo "${#files[@]} mutants, $survivors survived"
+[ "$survivors" = 0 ]
