@@ -1,128 +1,168 @@
 #include <algorithm>
-#include <cctype>
 #include <set>
 
-#include "fixture.h"
+#include "board_checks.h"
+#include "hand_board.h"
 
-// The deals of all games of the catalogue.
+// What lies on the table after a deal. The won games tell whether the cards of each game lie right.
 namespace varnello::test {
 namespace {
 
-struct DealCase {
-    const char* game;
-    int tableau, foundations, reserves, stock;  // cards after the deal
-};
-
-// clang-format off
-const DealCase kDeals[] = {
-    {"Avenue", 48, 4, 0, 0},              {"Baker's Game", 52, 0, 0, 0},
-    {"Baker's Spider", 52, 0, 0, 0},      {"Bastion", 50, 0, 2, 0},
-    {"Carnival", 48, 4, 0, 0},            {"Cascade", 35, 0, 0, 17},
-    {"Cone Freecell", 52, 0, 0, 0},       {"Double Baker's Game", 96, 8, 0, 0},
-    {"Double Baker's Spider", 104, 0, 0, 0}, {"Double Cascade", 40, 8, 0, 56},
-    {"Double Freecell", 96, 8, 0, 0},     {"Double Galaxy", 104, 0, 0, 0},
-    {"Double Klondike Freecell", 45, 0, 0, 59}, {"Double Spidercells", 104, 0, 0, 0},
-    {"Eight Off", 48, 0, 4, 0},           {"Fancell", 48, 4, 0, 0},
-    {"Forecell", 48, 0, 4, 0},            {"Four Colors", 52, 0, 0, 0},
-    {"Freecell", 52, 0, 0, 0},            {"Freecell AK", 48, 4, 0, 0},
-    {"Galaxy", 52, 0, 0, 0},              {"Klondike Freecell", 36, 0, 0, 16},
-    {"Milligan Cell", 8, 0, 0, 96},       {"Oasis", 32, 0, 0, 20},
-    {"Penguin", 49, 3, 0, 0},             {"SeaTowers", 50, 0, 2, 0},
-    {"See-Saw", 52, 0, 0, 0},             {"Seven By Four", 52, 0, 0, 0},
-    {"Spidercells", 52, 0, 0, 0},         {"Stalactites", 48, 4, 0, 0},
-    {"Stripped Freecell", 24, 2, 0, 0},   {"Tuxedo", 52, 0, 0, 0},
-    {"Two Cells", 52, 0, 0, 0},           {"Vertical Freecell", 48, 4, 0, 0},
-    {"Zodiac", 96, 8, 0, 0}};
-// clang-format on
-
-class Deals : public EngineTest, public ::testing::WithParamInterface<DealCase> {
+class Deals : public EngineTest {
 protected:
     void SetUp() override { engine.data.Set(keys::Autoplay, 0); }
-    int Count(Cell cell) const {
-        int cards = 0;
-        for (int pile = 0; pile < kPilesPerCell; ++pile) {
-            cards += engine.array().GetTop(cell, pile) + 1;
-        }
-        return cards;
+    void Deal() {
+        Play(row);
+        Start("Made Up", 5);
     }
-    const KesCard& At(Cell cell, int pile, int pos) const {
-        return engine.table.Card(engine.array().GetPicID(cell, pile, pos));
-    }
-};
-
-TEST_P(Deals, LayEveryCardOutOnce) {
-    const DealCase& deal = GetParam();
-    for (const double number : {1.0, 32.0, 4711.0, 999'999'999'999'999.0}) {
-        Start(deal.game, number);
-        EXPECT_EQ(Count(Cell::Home), deal.tableau);
-        EXPECT_EQ(Count(Cell::Goal), deal.foundations);
-        EXPECT_EQ(Count(Cell::Res), deal.reserves);
-        EXPECT_EQ(Count(Cell::Stock), deal.stock);
-        EXPECT_EQ(Count(Cell::Waste), 0);
-        std::set<PicID> seen;
-        for (int c = 0; c < kCells; ++c) {
-            const auto cell = static_cast<Cell>(c);
-            for (int pile = 0; pile < kPilesPerCell; ++pile) {
-                for (int pos = 0; pos <= engine.array().GetTop(cell, pile); ++pos) {
-                    const PicID id = engine.array().GetPicID(cell, pile, pos);
-                    EXPECT_TRUE(seen.insert(id).second) << id;
-                    EXPECT_EQ(engine.table.Card(id).Loc, (Place{cell, I16(pile), I16(pos)}));
-                    const bool closed =
-                        cell == Cell::Stock && engine.games.StockType() != StockType::Open;
-                    EXPECT_EQ(engine.table.Card(id).FaceMode == FaceMode::Closed, closed);
-                }
+    /// One character a tableau card, bottom first: "c" closed, "o" open; a blank between two piles.
+    std::string Faces() const {
+        std::string faces;
+        for (int pile = 0; pile < engine.games.Piles(Cell::Home); ++pile) {
+            if (pile > 0) faces += ' ';
+            for (int pos = 0; pos <= engine.array().GetTop(Cell::Home, pile); ++pos) {
+                const PicID id = engine.array().GetPicID(Cell::Home, pile, pos);
+                faces += engine.table.Card(id).FaceMode == FaceMode::Closed ? 'c' : 'o';
             }
         }
-        EXPECT_EQ(seen.size(), static_cast<std::size_t>(engine.games.TotalCards()));
-        EXPECT_EQ(engine.table.VisibleCards().size(), seen.size());
-        EXPECT_EQ(engine.trans().GetTransID(), 0);
+        return faces;
     }
-}
+    /// The foundations: the first card, or nothing, and the slot's picture if there is one.
+    std::string Foundations() const {
+        std::string text;
+        for (std::size_t pile = 0; pile < 4; ++pile) {
+            const PicID id = engine.array().GetPicID(Cell::Goal, static_cast<int>(pile), 0);
+            const KesEmpty& slot = engine.table.PicRight[pile];
+            if (id != kNoCard) text += TextOf(engine.table.Card(id));
+            text += slot.Visible ? std::to_string(slot.Picture) + ' ' : "- ";
+        }
+        return text;
+    }
+    GameRow row = Freecells();
+};
 
-TEST_P(Deals, ShowASlotForEachPile) {
-    Start(GetParam().game);
-    const cGames& games = engine.games;
-    const auto shown = [](const auto& slots) {
-        return std::count_if(slots.begin(), slots.end(), [](auto& slot) { return slot.Visible; });
-    };
-    EXPECT_EQ(shown(engine.table.PicHome), games.Piles(Cell::Home));
-    EXPECT_EQ(shown(engine.table.PicRes), games.Piles(Cell::Res));
-    EXPECT_EQ(shown(engine.table.PicRight), games.Piles(Cell::Goal));
-    EXPECT_EQ(shown(engine.table.PicWaste), games.Piles(Cell::Waste));
-    const std::string game = GetParam().game;
-    EXPECT_EQ(shown(engine.table.PicStock), game == "Cascade" || game == "Oasis" ? 1 : 0);
-    for (int pile = 0; pile < games.Piles(Cell::Home); ++pile) {
-        const KesEmpty& slot = engine.table.PicHome[static_cast<std::size_t>(pile)];
-        EXPECT_EQ(slot.Picture, games.EmptyNum() < 0 ? 14 : games.EmptyNum());
-        if (games.Piles(Cell::Home) > 0 && engine.array().GetTop(Cell::Home, pile) >= 0) {
-            EXPECT_EQ(slot.Left, At(Cell::Home, pile, 0).Left);
-            EXPECT_EQ(slot.Top, At(Cell::Home, pile, 0).Top);
+TEST_F(Deals, OfTheCatalogueAreWholeAndShowASlotForEachPile) {
+    for (const GameRow& game : kCatalogue) {
+        for (const double number : {2.0, 32.0, 4711.0, 999'999'999'999'999.0}) {
+            SCOPED_TRACE(std::string(game.Name) + ' ' + std::to_string(number));
+            Start(std::string(game.Name), number);
+            EXPECT_EQ(BoardFault(engine.array(), engine.table, engine.games), "");
+            EXPECT_EQ(PictureFault(engine), "");
+            EXPECT_FALSE(engine.trans().UndoPossible());
+            const auto shown = [](const auto& slots) {
+                return std::count_if(slots.begin(), slots.end(), [](auto& s) { return s.Visible; });
+            };
+            EXPECT_EQ(shown(engine.table.PicHome), engine.games.Piles(Cell::Home));
+            EXPECT_EQ(shown(engine.table.PicRes), engine.games.Piles(Cell::Res));
+            EXPECT_EQ(shown(engine.table.PicRight), engine.games.Piles(Cell::Goal));
+            EXPECT_EQ(shown(engine.table.PicWaste), engine.games.Piles(Cell::Waste));
+            EXPECT_EQ(shown(engine.table.PicStock), game.Stock.StockNum == StockNum::None ? 0 : 1);
         }
     }
-    for (int pile = 0; pile < games.Piles(Cell::Res); ++pile) {
-        EXPECT_EQ(engine.table.PicRes[static_cast<std::size_t>(pile)].Picture, 14);
-    }
 }
 
-std::string DealName(const ::testing::TestParamInfo<DealCase>& info) {
-    std::string name;
-    for (const char* c = info.param.game; *c; ++c) {
-        if (std::isalnum(static_cast<unsigned char>(*c))) name += *c;
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Catalogue, Deals, ::testing::ValuesIn(kDeals), DealName);
-
-TEST_F(Deals, TableHoldsTheWholeCatalogue) {
-    ASSERT_EQ(std::size(kDeals), static_cast<std::size_t>(engine.data.TotalGames()));
-    for (std::int16_t id = 1; id <= engine.data.TotalGames(); ++id) {
-        const std::string name = kDeals[id - 1].game;
-        EXPECT_EQ(engine.data.GetGName(id), name);
-        EXPECT_EQ(engine.data.GetGameID(name), id);
-    }
+TEST_F(Deals, CatalogueIsInAlphabeticalOrder) {
+    EXPECT_TRUE(std::is_sorted(kCatalogue.begin(), kCatalogue.end(),
+                               [](auto& a, auto& b) { return a.Name < b.Name; }));
+    EXPECT_EQ(engine.data.GetGName(19), "Freecell");
+    EXPECT_EQ(engine.data.GetGameID("Freecell"), 19);
     EXPECT_EQ(engine.data.GetGameID("freecell"), 0);
-    EXPECT_EQ(engine.data.GetGameID(""), 0);
+}
+
+TEST_F(Deals, PatternsOfTheTableau) {
+    const struct {
+        HomeType type;
+        int piles, cards, open;
+        const char* faces;
+    } cases[] = {
+        {HomeType::Rows, 4, 10, 3, "cco cco cc co"},
+        {HomeType::Rows, 4, 10, 10, "ooo ooo oo oo"},
+        {HomeType::Staircase, 4, 0, 0, "o oo ooo oooo"},
+        {HomeType::Staircase, 4, 0, 1, "o co cco ccco"},
+        {HomeType::ReverseStaircase, 4, 0, 0, "oooo ooo oo o"},
+        {HomeType::ReverseStaircase, 4, 0, 5, "oooo ccc cc c"},
+        {HomeType::ClosedCorner, 6, 26, 4, "cccoo cccoo ccco ccco oooo oooo"},
+    };
+    for (const auto& c : cases) {
+        row.Home.HomeType = c.type;
+        row.Home.Piles = I16(c.piles);
+        row.Home.Cards = I16(c.cards);
+        row.Home.CardsOpen = I16(c.open);
+        Deal();
+        EXPECT_EQ(Faces(), c.faces);
+        EXPECT_EQ(engine.array().GetPicID(Cell::Home, 0, 0), 51) << "the last card comes first";
+    }
+    row.Home.HomeType = HomeType::ReverseStaircase;
+    row.Home.Piles = 4;
+    row.Home.CardsOpen = 0;
+    row.Ext.TotalCards = 6;
+    Deal();
+    EXPECT_EQ(Faces(), "oo oo o o") << "it ends with the stock";
+}
+
+TEST_F(Deals, StartsOfTheFoundations) {
+    const struct {
+        int type, cards;
+        const char* foundations;
+    } cases[] = {
+        {1, 3, "2H1 2S1 2D1 1 "},    {12, 4, "KH12 KS12 KD12 KC12 "}, {5, 0, "- - - - "},
+        {13, 0, "13 13 13 13 "},     {14, 3, "AH0 AS0 KD12 KC12 "},   {14, 4, "AH0 AS0 KD12 KC12 "},
+        {15, 4, "AH0 2S1 3D2 4C3 "},
+    };
+    for (const auto& c : cases) {
+        row.Goal.GoalType = static_cast<GoalType>(c.type);
+        row.Goal.Cards = I16(c.cards);
+        Deal();
+        EXPECT_EQ(Foundations(), c.foundations) << c.type;
+    }
+}
+
+TEST_F(Deals, FirstCardMaySetTheBase) {
+    std::set<int> bases;
+    for (int number = 1; number <= 60; ++number) {
+        Start("Penguin", number);
+        const int base = engine.table.Card(0).Num;
+        bases.insert(base);
+        EXPECT_EQ(engine.games.GoalBase(), base);
+        EXPECT_EQ(engine.games.EmptyNum(), base == 0 ? 12 : base - 1);
+        EXPECT_EQ(engine.table.PicHome[0].Picture, engine.games.EmptyNum());
+        EXPECT_EQ(engine.array().GetTop(Cell::Goal, 3), -1);
+        for (int pile = 0; pile < 3; ++pile) {
+            EXPECT_EQ(engine.table.Card(Top(Cell::Goal, pile)).Num, base);
+        }
+        EXPECT_LT(Top(Cell::Goal, 1), Top(Cell::Goal, 2)) << "in the order found";
+    }
+    EXPECT_EQ(bases.size(), 13U) << "the numbers tried should reach every base";
+    Start("Freecell");
+    EXPECT_EQ(engine.games.GoalBase(), 0);
+}
+
+TEST_F(Deals, WasteStockAndEmptyPilesAreUpToTheGame) {
+    row.Waste = WasteDef{.Piles = 1, .Cards = 2};
+    row.Res.Cards = 1;
+    row.Home.Cards = 3;
+    row.Home.EmptyNum = 4;
+    Deal();
+    EXPECT_EQ(Top(Cell::Waste, 0), 51);
+    EXPECT_EQ(Top(Cell::Waste, 1), 50);
+    EXPECT_EQ(Top(Cell::Res, 0), 49);
+    EXPECT_EQ(Top(Cell::Home, 0), 48);
+    EXPECT_EQ(engine.table.PicHome[3].Picture, 4);
+    row.Waste = {};
+    row.Res.Cards = 0;
+    row.Home.EmptyNum = -3;
+    row.Home.Cards = 26;
+    row.Stock.StockType = StockType::TwoSuits;
+    Deal();
+    EXPECT_FALSE(engine.table.PicWaste[0].Visible);
+    EXPECT_EQ(engine.table.PicHome[3].Picture, 14);
+    EXPECT_EQ(engine.table.VisibleCards().size(), 26U);
+    for (const PicID id : engine.table.VisibleCards()) EXPECT_LT(engine.table.Card(id).Suit, 2);
+    row.Home.Cards = 0;
+    row.Stock = {.Piles = 0, .StockNum = StockNum::Redeal};
+    Deal();
+    EXPECT_EQ(engine.array().GetTop(Cell::Stock, 0), -1);
+    EXPECT_EQ(engine.table.PicStock[0].Picture, 16);
 }
 
 }  // namespace

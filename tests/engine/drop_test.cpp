@@ -1,145 +1,150 @@
-#include "board_fixture.h"
+#include "engine/rules/stacks.h"
+#include "hand_board.h"
 
-// Where a dropped card goes. Tableau piles lie at x 1000, 2500, 4000, 5500 and y 3000, reserves at
-// the same x and y 0, foundations at x 7000 and on and y 0. A card is 1065 by 1440.
+// Which cards can be picked up, and where a dropped card goes. Tableau piles lie at x 1000, 2500,
+// 4000, 5500 and y 3000, reserves at the same x and y 0, foundations at x 7000 and on and y 0. A
+// card is 1065 by 1440.
 namespace varnello::test {
 namespace {
 
-class Drops : public BoardTest {
-protected:
-    void SetUp() override {
-        SelectRow(games, row);
-        Autoplay(false);
-    }
-    void Use(const GameRow& changed) { SelectRow(games, changed); }
+TEST(Drops, GoWhereTheRulesAllow) {
+    ExpectPlays(Freecells(),
+                {{"t0 TS, t1 9H", "9H>t0", "t0 TS 9H"},
+                 {"t0 TD, t1 9H", "9H>t0"},
+                 {"t0 TS, w0 9H", "9H>t0", "t0 TS 9H"},
+                 {"t0 KC 9H 8S 7H, t1 TS", "9H>t1", "t0 KC, t1 TS 9H 8S 7H"},
+                 {"t0 9H", "9H>t2", "t2 9H"},
+                 // A reserve takes one card, from anywhere.
+                 {"t0 9C, g0 AH", "AH>r1 9C>r1 AH>r2 9C>r1", "r1 9C, r2 AH"},
+                 {"t0 2H AS, g0 AH", "2H>r0 2H>g0"},
+                 {"t0 AS 2S, g1 AD", "2S>g1 2S>g0 2S>r0 AS>g2 2S>g2", "g1 AD, g2 AS 2S"},
+                 {"g0 AH 2H", "2H>r0", "g0 AH, r0 2H"}});
+}
+
+TEST(Drops, OnEmptyPilesAreUpToTheGame) {
     GameRow row = Freecells();
-};
-
-TEST_F(Drops, RedNineGoesOnBlackTenOnly) {
-    Lay(Cell::Home, 0, "TS");
-    Lay(Cell::Home, 1, "TD");
-    const PicID nine = Lay(Cell::Home, 2, "9H");
-    DropOn(nine, Cell::Home, 1);
-    EXPECT_EQ(Tableau(2), "9H");
-    EXPECT_EQ(table.Card(nine).Left, 4000) << "it goes back";
-    DropOn(nine, Cell::Home, 0);
-    EXPECT_EQ(Tableau(0), "TS 9H");
-    EXPECT_EQ(table.Card(nine).Top, 3250);
+    row.Home.EmptyNum = kKing;
+    ExpectPlays(row, {{"t0 2C KH QS JH", "QS>t1 KH>t2", "t0 2C, t2 KH QS JH"}});
+    row.Home.EmptyNum = kNoCardAtAll;
+    ExpectPlays(row, {{"t0 2C KH", "KH>t1"}});
 }
 
-TEST_F(Drops, CentreBeatsOverlap) {
-    Lay(Cell::Home, 0, "TS");
-    Lay(Cell::Home, 1, "TC");
-    const PicID nine = Lay(Cell::Home, 2, "9H");
-    Drop(nine, 2000, 3000);  // overlaps pile 0 by 65, its centre lies on pile 1
-    EXPECT_EQ(Tableau(1), "TC 9H");
+TEST(Drops, OnFoundationsAreUpToTheGame) {
+    GameRow row = Freecells();
+    row.Goal.AK = 1;
+    ExpectPlays(row, {{"t0 AH+, g0 " + Cards(kUp, "H"), "AH+>g0"}});
+    row.Ext.Tag = Tag::FreecellAK;
+    ExpectPlays(row, {{"t0 QS, t1 2S, g0 AS, g2 KS", "QS>g0 2S>g2"},
+                      {"t0 QS, t1 2S, g0 AS, g2 KS", "QS>g2 2S>g0", "g0 AS 2S, g2 KS QS"}});
+    row.Ext.Tag = Tag::Spider;
+    ExpectPlays(row, {{"t0 AS", "AS>g0"}});
+    HandBoard board(Freecells(), "t0 7H");
+    board.games.GoalBase(6);
+    board.Do("7H>g3");
+    EXPECT_EQ(board.Text(), "g3 7H");
 }
 
-TEST_F(Drops, LowerPileWinsAmongOverlaps) {
-    Lay(Cell::Home, 0, "TS");
-    Lay(Cell::Home, 1, "TC");
-    const PicID nine = Lay(Cell::Home, 2, "9H");
-    Drop(nine, 1750, 3000);  // centre at 2282, between the piles, and both are reached
-    EXPECT_EQ(Tableau(0), "TS 9H");
-}
-
-TEST_F(Drops, NarrowTargetOfALaterKindBeatsWideTableau) {
+TEST(Drops, CentreBeatsOverlapAndTheLowerPileTheHigher) {
+    ExpectPlays(Freecells(), {{"t0 TS, t1 TC, t2 9H", "9H@2000,3000", "t0 TS, t1 TC 9H"},
+                              {"t0 TS, t1 TC, t2 9H", "9H@1750,3000", "t0 TS 9H, t1 TC"}});
+    GameRow row = Freecells();
     row.Home.StartY = 1400;  // the tableau's top row overlaps the reserves
-    Use(row);
-    Lay(Cell::Home, 0, "TS");
-    const PicID nine = Lay(Cell::Home, 2, "9H");
-    Drop(nine, 1000, 100);
-    EXPECT_EQ(Pile(Cell::Res, 0), "9H");
-}
-
-TEST_F(Drops, TableauBeatsReserveBeatsFoundationInOnePass) {
-    row.Home.StartY = 0;
+    ExpectPlays(row, {{"t0 TS, t2 9H", "9H@1000,100", "t0 TS, r0 9H"}});
+    row.Home.StartY = 0;  // all of them in one place
     row.Goal.StartX = row.Res.StartX;
-    Use(row);
-    const PicID two = Lay(Cell::Waste, 0, "2H");
-    Lay(Cell::Home, 0, "3S");
-    Lay(Cell::Goal, 0, "AH");
-    Drop(two, 1000, 0);
-    EXPECT_EQ(Tableau(0), "3S 2H");
-    Lay(Cell::Goal, 1, "AD");
-    DropOn(Lay(Cell::Waste, 0, "2D"), Cell::Goal, 1, 0, 300);  // pile 1 is empty and takes it
-    EXPECT_EQ(Tableau(1), "2D");
-    Lay(Cell::Home, 2, "9H");
-    Lay(Cell::Goal, 2, "AC");
-    const PicID third = Lay(Cell::Waste, 0, "2C");
-    DropOn(third, Cell::Goal, 2);
-    EXPECT_EQ(Pile(Cell::Res, 2), "2C");
-    Drop(third, 4000, 40);  // from the reserve, which holds the card itself
-    EXPECT_EQ(Pile(Cell::Goal, 2), "AC 2C");
+    ExpectPlays(row, {{"t0 3S, w0 2H, g0 AH", "2H>r0", "t0 3S 2H, g0 AH"},
+                      {"t2 9H, w0 2C, g2 AC", "2C>g2", "t2 9H, g2 AC, r2 2C"},
+                      {"t2 9H, g2 AC, r2 2C", "2C@4000,40", "t2 9H, g2 AC 2C"}});
+    row = Freecells();
+    row.Home.PileWidth = 500;  // a card's own pile is no target, but its neighbour is
+    row.Home.Order = OrderCode::Anything;
+    ExpectPlays(row, {{"t0 TS 9H, t1 2C", "9H@1000,3250", "t0 TS, t1 2C 9H"}});
 }
 
-struct EdgeCase {
-    int reserveX, pileX, pileY, left, top;
-    bool narrow;
-};
-
-void PrintTo(const EdgeCase& edge, std::ostream* out) { *out << edge.left << ' ' << edge.top; }
-
-// The card overlaps both a reserve, with its top at 3000, and a tableau pile that its centre isn't
-// on. Only a narrow hit takes it to the reserve.
-class NarrowEdges : public Drops, public ::testing::WithParamInterface<EdgeCase> {};
-
-TEST_P(NarrowEdges, AreStrictAndTheCentreRoundsToEven) {
-    const EdgeCase c = GetParam();
-    row.Res = {.Piles = 1, .StartX = I16(c.reserveX - 1790), .StartY = 3000};
-    row.Home.Piles = 1;
-    row.Home.StartX = I16(c.pileX - 1790);
-    row.Home.StartY = I16(c.pileY);
-    Use(row);
-    Lay(Cell::Home, 0, "TS");
-    Drop(Lay(Cell::Waste, 0, "9H"), c.left, c.top);
-    EXPECT_EQ(Pile(Cell::Res, 0), c.narrow ? "9H" : "");
-    EXPECT_EQ(Tableau(0), c.narrow ? "TS" : "TS 9H");
-}
-
-INSTANTIATE_TEST_SUITE_P(Left, NarrowEdges,
-                         ::testing::Values(EdgeCase{3000, 3100, 3800, 2467, 3000, false},
-                                           EdgeCase{3000, 3100, 3800, 2468, 3000, false},
-                                           EdgeCase{3000, 3100, 3800, 2469, 3000, true}));
-INSTANTIATE_TEST_SUITE_P(Right, NarrowEdges,
-                         ::testing::Values(EdgeCase{3001, 2500, 3800, 3532, 3000, true},
-                                           EdgeCase{3001, 2500, 3800, 3533, 3000, false},
-                                           EdgeCase{3001, 2500, 3800, 3534, 3000, false}));
-INSTANTIATE_TEST_SUITE_P(TopAndBottom, NarrowEdges,
-                         ::testing::Values(EdgeCase{3000, 3000, 3600, 3000, 2280, false},
-                                           EdgeCase{3000, 3000, 3600, 3000, 2281, true},
-                                           EdgeCase{3000, 3000, 2500, 3000, 3719, true},
-                                           EdgeCase{3000, 3000, 2500, 3000, 3720, false}));
-
-TEST_F(Drops, OverlapIsStrict) {
-    row.Home.Piles = 1;
+TEST(Drops, OverlapIsStrict) {
+    GameRow row = Freecells(1);
     row.Home.StartX = 4000 - 1790;
     row.Res = {};
-    Use(row);
-    Lay(Cell::Home, 0, "TS");
-    const PicID nine = Lay(Cell::Waste, 0, "9H");
-    const std::pair<int, int> touching[] = {{2935, 3000}, {5065, 3000}, {4000, 1560}, {4000, 4440}};
-    for (const auto& [left, top] : touching) {
-        Drop(nine, left, top);
-        EXPECT_EQ(Tableau(0), "TS") << left << ' ' << top;
+    for (const char* touching : {"@2935,3000", "@5065,3000", "@4000,1560", "@4000,4440"}) {
+        ExpectPlays(row, {{"t0 TS, w0 9H", std::string("9H") + touching}});
     }
-    const std::pair<int, int> inside[] = {{2936, 3000}, {5064, 3000}, {4000, 1561}, {4000, 4439}};
-    for (const auto& [left, top] : inside) {
-        Drop(nine, left, top);
-        EXPECT_EQ(Tableau(0), "TS 9H") << left << ' ' << top;
-        std::int16_t speed = 0;
-        trans->Undo(speed);
+    for (const char* inside : {"@2936,3000", "@5064,3000", "@4000,1561", "@4000,4439"}) {
+        ExpectPlays(row, {{"t0 TS, w0 9H", std::string("9H") + inside, "t0 TS 9H"}});
+    }
+    // An empty pile is looked for where a card at position -1 would lie, one step before its slot.
+    row.Home.StartX = -790;
+    ExpectPlays(row, {{"w0 9H", "9H@1000,4190"}, {"w0 9H", "9H@1000,4189", "t0 9H"}});
+}
+
+TEST(Drops, CentreIsStrictAndRoundsToEven) {
+    // The card overlaps a reserve, with its top at 3000, and a tableau pile that its centre isn't
+    // on. Only a hit of the centre takes it to the reserve.
+    const struct {
+        int reserveX, pileX, pileY;
+        const char* drop;
+        bool hit;
+    } cases[] = {
+        {3000, 3100, 3800, "9H@2468,3000", false}, {3000, 3100, 3800, "9H@2469,3000", true},
+        {3001, 2500, 3800, "9H@3532,3000", true},  {3001, 2500, 3800, "9H@3533,3000", false},
+        {3000, 3000, 3600, "9H@3000,2280", false}, {3000, 3000, 3600, "9H@3000,2281", true},
+        {3000, 3000, 2500, "9H@3000,3719", true},  {3000, 3000, 2500, "9H@3000,3720", false}};
+    for (const auto& c : cases) {
+        GameRow row = Freecells(1);
+        row.Res = {.Piles = 1, .StartX = I16(c.reserveX - 1790), .StartY = 3000};
+        row.Home.StartX = I16(c.pileX - 1790);
+        row.Home.StartY = I16(c.pileY);
+        ExpectPlays(row, {{"t0 TS, w0 9H", c.drop, c.hit ? "t0 TS, r0 9H" : "t0 TS 9H"}});
     }
 }
 
-TEST_F(Drops, EmptyPileIsReachedOneStepBeforeItsSlot) {
-    row.Home.Piles = 1;
-    Use(row);
-    const PicID card = Lay(Cell::Waste, 0, "9H");
-    Drop(card, 1000, 4190);  // on the slot, but below a card at position -1
-    EXPECT_EQ(Tableau(0), "");
-    Drop(card, 1000, 4189);
-    EXPECT_EQ(Tableau(0), "9H");
+TEST(Groups, AreLimitedByFreePlaces) {
+    const struct {
+        int freeReserves, emptyPiles, extra;
+    } cases[] = {{0, 0, 0}, {1, 0, 1}, {4, 0, 4}, {0, 3, 3}, {2, 2, 8}, {4, 1, 9}};
+    const std::string run = Cards(kDown, "HS");
+    for (const auto& c : cases) {
+        HandBoard board(Freecells(c.emptyPiles + 1), "t0 9D " + run);
+        for (int i = c.freeReserves; i < 4; ++i) board.Lay("r" + std::to_string(i) + " 2C");
+        EXPECT_EQ(MaxExtraCards(board.field), c.extra);
+        for (int above = 0; above <= 12; ++above) {
+            EXPECT_EQ(board.PicksUp(run.substr(std::size_t(36 - 3 * above), 2)), above <= c.extra);
+        }
+        EXPECT_FALSE(board.PicksUp("9D")) << "a broken run";
+    }
+}
+
+TEST(Groups, AreUpToTheGame) {
+    const auto pickedUp = [](const GameRow& row, std::string_view piles, std::string_view card) {
+        return HandBoard(row, piles).PicksUp(card);
+    };
+    const std::string full = "t0 KH QS JH, r0 2C, r1 2C, r2 2C, r3 2C";
+    GameRow row = Freecells(1);
+    for (const Tag tag : {Tag::Freecell, Tag::FreecellAK, Tag::Penguin, Tag::Spider, Tag::Stala}) {
+        row.Ext.Tag = tag;
+        EXPECT_EQ(pickedUp(row, full, "KH"), tag == Tag::Spider || tag == Tag::Stala);
+    }
+    row = Freecells();
+    row.Home.MultiMove = 0;
+    EXPECT_FALSE(pickedUp(row, "t0 QS JH", "QS"));
+    EXPECT_TRUE(pickedUp(row, "t0 QS JH", "JH"));
+    row = Freecells();
+    row.Home.Order = OrderCode::DownAny;
+    EXPECT_TRUE(pickedUp(row, "t0 KH QS JS", "KH")) << "the tableau's order counts";
+    row.Home.MultiOrder = OrderCode::DownSuit;
+    EXPECT_FALSE(pickedUp(row, "t0 KH QS JS", "KH"));
+    EXPECT_TRUE(pickedUp(row, "t0 KH QS JS", "QS"));
+    EXPECT_FALSE(pickedUp(row, "t0 2H AH KH", "2H"));
+    row.Home.AK = kTrue;
+    EXPECT_TRUE(pickedUp(row, "t0 2H AH KH", "2H"));
+    EXPECT_FALSE(pickedUp(row, "t0 -QS JS", "QS"));
+}
+
+TEST(Groups, AreFoundInTheTableauOnly) {
+    GameRow row = Freecells();
+    row.Stock.StockType = StockType::Open;
+    HandBoard board(row, "s0 7D 6D, w0 5H 4H, g0 AH 2H, t0 -TS");
+    for (const char* top : {"6D", "4H", "2H", "TS"}) EXPECT_TRUE(board.PicksUp(top)) << top;
+    for (const char* lower : {"7D", "5H", "AH"}) EXPECT_FALSE(board.PicksUp(lower)) << lower;
 }
 
 }  // namespace

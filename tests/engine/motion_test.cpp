@@ -1,129 +1,91 @@
-#include "board_fixture.h"
+#include "hand_board.h"
 
-// The one door through which a card changes its place.
+// The one door through which a card changes its place, and what lies in front.
 namespace varnello::test {
 namespace {
 
-class Motion : public BoardTest {
-protected:
-    void SetUp() override {
-        SelectRow(games, Freecells());
-        Autoplay(false);
-    }
-    void Move(PicID id, Cell cell, int pile, int pos, MoveKind kind, int speed = 0, int carried = 0,
-              FaceMode face = FaceMode::Open) {
-        array.MoveCard(id, {cell, I16(pile), I16(pos)}, kind, I16(speed), I16(carried), face);
-    }
-};
+constexpr MoveKind kKinds[] = {MoveKind::Play, MoveKind::FromStock, MoveKind::ToStock,
+                               MoveKind::UndoRedo, MoveKind::Deal};
 
-TEST_F(Motion, RepaintsOncePerStepAndOnceMore) {
-    const PicID card = Lay(Cell::Home, 0, "QH JS TH");
-    surface.repaints = 0;
-    Move(card, Cell::Home, 1, 0, MoveKind::Play, 3, 2);
-    EXPECT_EQ(surface.flightSteps, 3);
-    EXPECT_EQ(surface.repaints, 3) << "one for each card";
-    Move(card, Cell::Res, 0, 0, MoveKind::Play, 0);
-    Move(card, Cell::Res, 1, 0, MoveKind::Play, -1);
-    EXPECT_EQ(surface.flightSteps, 3);
+void Move(HandBoard& board, std::string_view card, Place to, MoveKind kind = MoveKind::Play,
+          std::int16_t speed = 0, std::int16_t carried = 0, FaceMode face = FaceMode::Open) {
+    board.array.MoveCard(board.Id(card), to, kind, speed, carried, face);
 }
 
-TEST_F(Motion, FliesInEqualStepsFromWhereTheCardStands) {
-    const PicID card = Lay(Cell::Home, 0, "QH");
+TEST(Motion, FliesInEqualStepsFromWhereTheCardStands) {
+    HandBoard board(Freecells(), "t0 QH JS TH");
     std::vector<std::pair<double, double>> seen;
-    surface.onFlight = [&] { seen.emplace_back(table.Card(card).Left, table.Card(card).Top); };
-    table.Card(card).MoveTo(700, 1600);
-    Move(card, Cell::Res, 0, 0, MoveKind::Play, 4);
+    board.surface.onFlight = [&] {
+        seen.emplace_back(board.Card("QH").Left, board.Card("QH").Top);
+    };
+    board.surface.repaints = 0;
+    board.Card("QH").MoveTo(700, 1600);
+    Move(board, "QH", {Cell::Res, 0, 0}, MoveKind::Play, 4, 2);
     using Seen = std::vector<std::pair<double, double>>;
     EXPECT_EQ(seen, (Seen{{775, 1200}, {850, 800}, {925, 400}, {1000, 0}}));
+    EXPECT_EQ(board.surface.repaints, 3) << "one for each card";
+    Move(board, "JS", {Cell::Res, 1, 0}, MoveKind::Play, -1);
+    EXPECT_EQ(board.surface.flightSteps, 4);
 }
 
-TEST_F(Motion, OpensTheClosedCardBelowAndSaysSo) {
-    for (const MoveKind kind : {MoveKind::Play, MoveKind::FromStock}) {
-        const PicID below = Lay(Cell::Home, 0, "-4C QH");
-        Move(I16(below + 1), Cell::Res, 0, 0, kind);
-        EXPECT_EQ(table.Card(below).FaceMode, FaceMode::Open);
-        EXPECT_EQ(trans->Record(trans->TransTop()).MoveKind, MoveKind::Uncover);
-    }
+TEST(Motion, OpensTheClosedTableauCardBelow) {
+    HandBoard board(Freecells(), "t0 -4C QH, t1 -5C, w0 -6C JH");
+    Move(board, "QH", {Cell::Res, 0, 0}, MoveKind::FromStock);
+    Move(board, "JH", {Cell::Res, 1, 0});
+    Move(board, "5C", {Cell::Res, 2, 0});
+    EXPECT_EQ(board.Text(), "t0 4C, w0 -6C, r0 QH, r1 JH, r2 5C");
+    EXPECT_EQ(board.trans->Record(1).MoveKind, MoveKind::Uncover);
+    EXPECT_EQ(board.trans->Record(3).MoveKind, MoveKind::Play);
 }
 
-TEST_F(Motion, OpensNothingOutsideTheTableauOrBelowTheBottom) {
-    const PicID waste = Lay(Cell::Waste, 0, "-4C QH");
-    Move(I16(waste + 1), Cell::Res, 0, 0, MoveKind::Play);
-    EXPECT_EQ(table.Card(waste).FaceMode, FaceMode::Closed);
-    const PicID only = Lay(Cell::Home, 2, "-5C");
-    Move(only, Cell::Res, 1, 0, MoveKind::Play);
-    EXPECT_EQ(array.GetTop(Cell::Home, 2), -1);
-    EXPECT_EQ(trans->Record(2).MoveKind, MoveKind::Play);
-}
-
-TEST_F(Motion, GivesEveryCardTheFaceItIsTold) {
-    const PicID card = Lay(Cell::Home, 0, "QH -JS");
-    Move(card, Cell::Home, 1, 0, MoveKind::Play, 0, 1, FaceMode::Open);
-    EXPECT_EQ(Tableau(1), "QH JS");
-    Move(card, Cell::Home, 2, 0, MoveKind::Play, 0, 1, FaceMode::Closed);
-    EXPECT_EQ(Tableau(2), "-QH -JS");
-}
-
-TEST_F(Motion, FullFoundationRefusesInSilence) {
-    Lay(Cell::Goal, 0, "AH 2H 3H 4H 5H 6H 7H 8H 9H TH JH QH KH");
-    const PicID card = Lay(Cell::Home, 0, "-4C 2C");
-    Move(I16(card + 1), Cell::Goal, 0, 13, MoveKind::Play, 3);
-    EXPECT_EQ(Tableau(0), "-4C 2C");
-    EXPECT_EQ(Heard(), "");
-    EXPECT_EQ(trans->GetTransID(), 0);
+TEST(Motion, FullFoundationRefusesInSilence) {
+    const std::string piles = "t0 -4C 2C, g0 " + Cards(kUp, "H");
+    HandBoard board(Freecells(), piles);
+    Move(board, "2C", {Cell::Goal, 0, 13});
+    EXPECT_EQ(board.Text(), piles);
+    EXPECT_EQ(board.Heard(), "");
+    EXPECT_FALSE(board.trans->UndoPossible());
     GameRow runs = Freecells();
     runs.Ext.Tag = Tag::Spider;
-    SelectRow(games, runs);
-    Move(I16(card + 1), Cell::Goal, 0, 13, MoveKind::Play, 3);
-    EXPECT_EQ(array.GetTop(Cell::Goal, 0), 13) << "but not in the games of whole runs";
+    SelectRow(board.games, runs);
+    Move(board, "2C", {Cell::Goal, 0, 13});
+    EXPECT_EQ(board.array.GetTop(Cell::Goal, 0), 13) << "but not in the games of whole runs";
 }
 
-TEST_F(Motion, OnlyPlayClearsThePlaceLeft) {
-    const PicID card = Lay(Cell::Home, 0, "QH");
-    Move(card, Cell::Home, 1, 0, MoveKind::Deal);
-    EXPECT_EQ(array.GetPicID(Cell::Home, 0, 0), card);
-    EXPECT_EQ(array.GetTop(Cell::Home, 0), -1);
-    Move(card, Cell::Res, 0, 0, MoveKind::Play);
-    EXPECT_EQ(array.GetPicID(Cell::Home, 1, 0), kNoCard);
-    Move(card, Cell::Home, 0, 0, MoveKind::UndoRedo);
-    EXPECT_EQ(array.GetPicID(Cell::Res, 0, 0), kNoCard);
+TEST(Motion, OnlyADealLeavesItsPlaceMarked) {
+    HandBoard board(Freecells(), "t0 QH");
+    Move(board, "QH", {Cell::Home, 1, 0}, MoveKind::Deal);
+    EXPECT_EQ(board.array.GetPicID(Cell::Home, 0, 0), 0);
+    Move(board, "QH", {Cell::Res, 0, 0});
+    EXPECT_EQ(board.array.GetPicID(Cell::Home, 1, 0), kNoCard);
 }
 
-TEST_F(Motion, LogsAllKindsButUndoAndDeal) {
-    const PicID card = Lay(Cell::Home, 0, "QH");
-    int pile = 0;
-    for (const MoveKind kind : {MoveKind::Play, MoveKind::FromStock, MoveKind::ToStock,
-                                MoveKind::UndoRedo, MoveKind::Deal}) {
-        Move(card, Cell::Home, ++pile, 0, kind);
-    }
-    EXPECT_EQ(trans->GetTransID(), 3);
-}
-
-TEST_F(Motion, TestsForTheWinAfterEveryKindWhileAGameRuns) {
+TEST(Motion, TestsForTheWinAfterEveryKindWhileAGameRuns) {
     GameRow row = Freecells();
     row.Ext.TotalCards = 1;
-    SelectRow(games, row);
-    for (const MoveKind kind : {MoveKind::Play, MoveKind::FromStock, MoveKind::ToStock,
-                                MoveKind::UndoRedo, MoveKind::Deal}) {
-        array.Clear();
-        const PicID card = Lay(Cell::Home, 0, "9H");
-        wins = 0;
-        Move(card, Cell::Goal, 0, 0, kind);
-        EXPECT_EQ(wins, 1) << static_cast<int>(kind);
-        data.GameRunning = false;
-        Move(card, Cell::Goal, 1, 0, kind);
-        data.GameRunning = true;
-        EXPECT_EQ(wins, 1) << static_cast<int>(kind);
+    for (const MoveKind kind : kKinds) {
+        HandBoard board(row, "t0 9H");
+        Move(board, "9H", {Cell::Goal, 0, 0}, kind);
+        EXPECT_EQ(board.wins, 1) << static_cast<int>(kind);
+        EXPECT_EQ(board.trans->UndoPossible(),
+                  kind != MoveKind::Deal && kind != MoveKind::UndoRedo);
+        board.data.GameRunning = false;
+        Move(board, "9H", {Cell::Goal, 1, 0}, kind);
+        EXPECT_EQ(board.wins, 1) << static_cast<int>(kind);
     }
 }
 
-TEST_F(Motion, ArrivingCardsLieInFront) {
-    const PicID lower = Lay(Cell::Home, 0, "QH JS");
-    Lay(Cell::Home, 1, "KC");
-    Move(lower, Cell::Home, 1, 1, MoveKind::Play, 0, 1);
-    const auto front = table.VisibleCards();
-    EXPECT_EQ(front.back(), lower + 1);
-    EXPECT_EQ(front[front.size() - 2], lower);
+TEST(Motion, ArrivingCardsLieInFront) {
+    HandBoard board(Freecells(), "t0 QH JS, t1 KC");
+    Move(board, "QH", {Cell::Home, 1, 1}, MoveKind::Play, 0, 1);
+    EXPECT_EQ(board.table.VisibleCards(), (std::vector<PicID>{2, 0, 1}));
+    // The mouse finds the frontmost card; a card's right and lower edges lie outside it.
+    const KesCard& jack = board.Card("JS");
+    EXPECT_EQ(board.table.CardAt(jack.Left, jack.Top), 1);
+    EXPECT_EQ(board.table.CardAt(jack.Left, jack.Top - 1), 0);
+    EXPECT_EQ(board.table.CardAt(jack.Left + 1064, jack.Top + 1439), 1);
+    EXPECT_EQ(board.table.CardAt(jack.Left + 1065, jack.Top), kNoCard);
+    EXPECT_EQ(board.table.CardAt(jack.Left, jack.Top + 1440), kNoCard);
 }
 
 }  // namespace

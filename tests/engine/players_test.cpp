@@ -1,80 +1,153 @@
 #include "fixture.h"
 
-// The lists of players and of recent games.
+// Deals by number, favorites, recent games, and the players with their names and files.
 namespace varnello::test {
 namespace {
 
-class Players : public EngineTest {
+class Choosing : public EngineTest {
 protected:
-    std::string Recent() const {
+    std::filesystem::path File(const std::string& name) { return engine.data.AppDir() / name; }
+    std::string FirstPlayers() const {
         std::string list;
-        for (std::int16_t i = 1; i <= kMaxRecent; ++i) list += engine.data.GetRecent(i) + '|';
+        for (std::int16_t slot = 1; slot <= 4; ++slot) list += engine.data.GetPlayer(slot) + '|';
         return list;
     }
     cData& data = engine.data;
 };
+using Players = Choosing;
 
-TEST_F(Players, TwentyOfThemAndNoMore) {
-    for (int i = 2; i <= 20; ++i) EXPECT_TRUE(data.AddPlayer("P" + std::to_string(i)));
-    EXPECT_EQ(data.TotalPlayers(), 20);
+TEST_F(Choosing, TakesNumbersStrictlyInsideTheRange) {
+    const struct {
+        int range;
+        std::string text;
+        bool accepted;
+    } cases[] = {{5, "99998", true},
+                 {5, "99999", false},
+                 {5, "0", false},
+                 {5, "", false},
+                 {5, " 12.5 ", true},
+                 {5, "1e5", false},
+                 {15, "1000000000000000", true},  // tested as a 32-bit float
+                 {15, "1e16", false},
+                 {15, "1e-999", false},
+                 {15, "1e-40", true},
+                 {15, "0x10", false},
+                 {1, "8.9", true}};
+    for (const auto& c : cases) {
+        data.Set(keys::RangeIndex, I16(c.range));
+        EXPECT_EQ(engine.IsChoosable(c.text), c.accepted) << c.range << ": " << c.text;
+    }
+    EXPECT_EQ(engine.RangeText(), "0 and 9");
+    data.Set(keys::RangeIndex, 3);
+    EXPECT_EQ(engine.RangeText(), "0 and 999");
+}
+
+TEST_F(Choosing, AcceptsBeforeItDeals) {
+    EXPECT_FALSE(engine.ChooseNumber("Freecell", "abc", [] { FAIL(); }));
+    EXPECT_TRUE(engine.ChooseNumber("Freecell", "7", [&] { EXPECT_FALSE(data.GameRunning); }));
+    EXPECT_TRUE(data.CurGNo.IsText());
+}
+
+TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {
+    engine.AddFavorite();  // no game, so nothing
+    EXPECT_FALSE(std::filesystem::exists(File("fav.dat")));
+    WriteFile(File("fav.dat"),
+              "\"A\",1\n\"A\" ,2\nA,3\n\"A\"\n\"A\",4,5\n\"A\",x\n\n\"A\",1234567890123456\n"
+              "\"A\",\"any text\"\r\n\"A\",6");
+    engine.favorites.OpenFav();
+    EXPECT_EQ(engine.favorites.NumbersOf("A"), (std::vector<std::string>{"1", "any text", "6"}));
+    std::string many;
+    for (int i = 0; i < 33000; ++i) many += "\"A\",7\r\n";
+    WriteFile(File("fav.dat"), many);
+    engine.favorites.OpenFav();
+    EXPECT_EQ(engine.favorites.FavTop(), 32767);
+}
+
+TEST_F(Choosing, RecentGamesComeNewestFirst) {
+    const auto recent = [&] {
+        std::string list;
+        for (std::int16_t i = 1; i <= kMaxRecent; ++i) list += data.GetRecent(i) + '|';
+        return list;
+    };
+    for (const char* game : {"A", "B", "A", "A", "C"}) data.SetRecent(game);
+    EXPECT_EQ(recent(), "C|A|B|A||");
+    EXPECT_EQ(data.RecentCount(), 4);
+    for (const char* game : {"D", "a", "A"}) data.SetRecent(game);
+    EXPECT_EQ(recent(), "A|a|D|C|A|");
+    dialogs.answer = false;
+    EXPECT_FALSE(engine.ClearRecentGames());
+    dialogs.answer = true;
+    EXPECT_TRUE(engine.ClearRecentGames());
+    EXPECT_EQ(recent(), "|||||");
+}
+
+TEST_F(Players, AreTwentyAtMostAndToldApartByCase) {
+    for (int i = 2; i <= 20; ++i) {
+        EXPECT_TRUE(engine.MayAddPlayer());
+        EXPECT_TRUE(engine.EnterPlayer("", i == 2 ? "player1" : "P" + std::to_string(i)));
+    }
+    EXPECT_FALSE(engine.MayAddPlayer());
     EXPECT_FALSE(data.AddPlayer("P21"));
-    EXPECT_EQ(data.GetPlayer(20), "P20");
-    EXPECT_EQ(data.GetPlayer(21), "");
-    EXPECT_EQ(data.CurPlayer(), "Player1") << "adding leaves the current one";
-}
-
-TEST_F(Players, AreTakenIntoTheFirstFreeSlot) {
-    data.AddPlayer("Ada");
-    data.AddPlayer("Bob");
-    data.SetPlayer(2, "", false);
-    EXPECT_EQ(data.TotalPlayers(), 2);
-    data.AddPlayer("Cyd");
-    EXPECT_EQ(data.GetPlayer(2), "Cyd");
-}
-
-TEST_F(Players, AreToldApartByCase) {
-    data.AddPlayer("player1");
-    EXPECT_EQ(data.FindPlayer("player1"), 2);
-    EXPECT_EQ(data.FindPlayer("Player1"), 1);
+    EXPECT_EQ(data.FindPlayer("P20"), 20);
     EXPECT_EQ(data.FindPlayer("PLAYER1"), 0);
+    EXPECT_EQ(data.CurPlayer(), "Player1") << "adding leaves the current one";
+    data.SetPlayer(2, "", false);
+    data.AddPlayer("Cyd");
+    EXPECT_EQ(data.FindPlayer("Cyd"), 2) << "the first free slot";
 }
 
-TEST_F(Players, CurrentOneIsBookedTo) {
-    data.SetPlayer(2, "Zoë K.", true);
+TEST_F(Players, HaveNamesFitForFiles) {
+    for (const char* bad : {"", "   ", "a/b", "a\\b", "a\tb", "a\nb", "\x7f", "\x01"}) {
+        EXPECT_FALSE(engine.EnterPlayer("", bad));
+        EXPECT_EQ(Heard(), "message: Please Enter a Valid Name\n") << bad;
+    }
+    for (const char* good : {" A ", "\u540d\u524d Zo\u00eb", "x.y", "..", "a:b"}) {
+        EXPECT_TRUE(engine.EnterPlayer("", good)) << good;
+        EXPECT_FALSE(engine.EnterPlayer("", good));
+        EXPECT_FALSE(engine.EnterPlayer(good, good));
+        EXPECT_EQ(Heard(), "message: Player Exists !\nmessage: Player Exists !\n");
+    }
+    const std::string longest = std::string(24, 'x') + "\u00eb";
+    EXPECT_EQ(CutPlayerName(longest + "\u00eb"), longest);
+}
+
+TEST_F(Players, TakeTheirResultsAlong) {
+    data.SetPlayer(1, "Zo\u00eb", true);
     Start("Freecell");
     engine.CloseGame();
-    EXPECT_TRUE(std::filesystem::exists(data.AppDir() / std::filesystem::path(u8"Zoë K..sre")));
-    EXPECT_FALSE(std::filesystem::exists(ScoreFile()));
+    const std::string results = ReadFile(File("Zo\u00eb.sre"));
+    EXPECT_NE(results, "");
+    EXPECT_TRUE(engine.EnterPlayer("Zo\u00eb", "Ann"));
+    EXPECT_EQ(data.CurPlayer(), "Ann");
+    EXPECT_EQ(ReadFile(File("Ann.sre")), results);
+    EXPECT_FALSE(std::filesystem::exists(File("Zo\u00eb.sre")));
+    // A file left by somebody else isn't destroyed, nor a name changed that no file can have.
+    WriteFile(File("Bob.sre"), "his");
+    EXPECT_FALSE(engine.EnterPlayer("Ann", "Bob"));
+    EXPECT_EQ(ReadFile(File("Bob.sre")), "his");
+    Heard();
+    EXPECT_FALSE(engine.EnterPlayer("Ann", std::string(300, 'x')));
+    EXPECT_NE(Heard().find("keeps the old name"), std::string::npos);
+    EXPECT_EQ(data.CurPlayer() + data.GetPlayer(1), "AnnAnn");
+    EXPECT_TRUE(engine.EnterPlayer("", "Bob")) << "a new player may find old results";
 }
 
-TEST_F(Players, NamesThatCanBeNoFileAreRefused) {
-    for (const char* good : {"A", " A ", "Zoë", "x.y", "..", "a:b"}) {
-        EXPECT_TRUE(IsPlayerName(good)) << good;
-    }
-    for (const char* bad : {"", " ", "   ", "a/b", "/", "a\tb", "a\nb", "\x7f", "\x01"}) {
-        EXPECT_FALSE(IsPlayerName(bad)) << bad;
-    }
-}
-
-TEST_F(Players, RecentGamesComeNewestFirst) {
-    EXPECT_EQ(data.RecentCount(), 0);
-    for (const char* game : {"A", "B", "A", "A", "C"}) data.SetRecent(game);
-    EXPECT_EQ(Recent(), "C|A|B|A||");
-    EXPECT_EQ(data.RecentCount(), 4);
-    data.SetRecent("D");
-    data.SetRecent("E");
-    EXPECT_EQ(Recent(), "E|D|C|A|B|");
-    data.SetRecent("a");
-    data.SetRecent("A");
-    EXPECT_EQ(Recent(), "A|a|E|D|C|");
-    data.ClearRecent();
-    EXPECT_EQ(Recent(), "|||||");
-    EXPECT_EQ(data.RecentCount(), 0);
-}
-
-TEST_F(Players, EveryStartIsEntered) {
-    for (const char* game : {"Avenue", "Zodiac", "Zodiac", "Avenue"}) Start(game);
-    EXPECT_EQ(Recent(), "Avenue|Zodiac|Avenue|||");
+TEST_F(Players, LeaveNothingBehindButTheirOrder) {
+    for (const char* name : {"B", "C", "D"}) engine.EnterPlayer("", name);
+    for (const char* file : {"B.sre", "C.sre", "D.sre"}) WriteFile(File(file), "x");
+    EXPECT_FALSE(engine.DeletePlayer("Player1")) << "the current one";
+    dialogs.answer = false;
+    EXPECT_FALSE(engine.DeletePlayer("B"));
+    EXPECT_EQ(Heard(), "question: Are you sure you want to delete this player\n");
+    EXPECT_TRUE(std::filesystem::exists(File("B.sre")));
+    engine.ClearStat();
+    EXPECT_TRUE(std::filesystem::exists(File("D.sre")));
+    dialogs.answer = true;
+    EXPECT_TRUE(engine.DeletePlayer("B"));
+    EXPECT_FALSE(std::filesystem::exists(File("B.sre")));
+    EXPECT_EQ(FirstPlayers(), "Player1|C|D||");
+    engine.ClearStat();
+    EXPECT_FALSE(std::filesystem::exists(File("D.sre")));
 }
 
 }  // namespace

@@ -1,0 +1,103 @@
+#include "board_checks.h"
+#include "hand_board.h"
+
+// Press, drag and release.
+namespace varnello::test {
+namespace {
+
+using At = std::pair<double, double>;
+
+At Stands(HandBoard& board, std::string_view card) {
+    return {board.Card(card).Left, board.Card(card).Top};
+}
+
+TEST(Gestures, SoundWhateverTheyMove) {
+    HandBoard board(Freecells(), "t0 KH 4S, t1 QS");
+    for (const auto& key : {keys::SoundCardDown, keys::SoundCardUp}) board.data.Set(key, -1);
+    board.Do("KH@5000,5000");
+    EXPECT_EQ(board.Heard(), "sound: CardDown\n") << "nothing was picked up";
+    board.Do("4S");
+    EXPECT_EQ(board.Heard(), "sound: CardDown\nsound: CardUp\n");
+    board.Press("QS");
+    board.Press("KH");  // forgets the queen
+    board.Release("KH");
+    EXPECT_EQ(board.Heard(), "sound: CardDown\nsound: CardDown\n");
+    board.data.GameRunning = false;
+    board.Do("4S@5000,5000 slot");
+    EXPECT_EQ(board.Heard(), "");
+    EXPECT_EQ(Stands(board, "4S"), At(1000, 3250));
+}
+
+TEST(Gestures, GripPointStaysUnderThePointer) {
+    HandBoard board(Freecells(), "t0 KH QS");
+    const PicID queen = board.Id("QS");
+    board.gestures.MouseDown(queen, 100.5, 201.5);  // ties to even: 100 and 202
+    board.gestures.MouseMove(queen, 140, 232);
+    EXPECT_EQ(Stands(board, "QS"), At(1040, 3280));
+    board.gestures.MouseMove(queen, 100.5, 203.5);  // 1040.5 and 3281.5
+    EXPECT_EQ(Stands(board, "QS"), At(1040, 3282));
+    board.Press("KH");
+    board.Drag("KH", 1e9, 32700);
+    EXPECT_EQ(Stands(board, "KH"), At(32767, 32700));
+    EXPECT_EQ(Stands(board, "QS"), At(32767, 32767));
+}
+
+TEST(Gestures, CarriedCardsFanOutInFront) {
+    HandBoard board(Freecells(), "t0 KH QS JH, t1 2C");
+    board.Press("KH");
+    EXPECT_EQ(board.table.VisibleCards(), (std::vector<PicID>{0, 3, 1, 2}));
+    board.Drag("KH", 5000, 8000);
+    EXPECT_EQ(board.table.VisibleCards(), (std::vector<PicID>{3, 0, 1, 2}));
+    EXPECT_EQ(Stands(board, "KH"), At(5000, 8000));
+    EXPECT_EQ(Stands(board, "JH"), At(5000, 8500));
+    EXPECT_EQ(board.Text(), "t0 KH QS JH, t1 2C") << "the board doesn't change before the drop";
+    board.Release("KH");
+    EXPECT_EQ(Stands(board, "JH"), At(1000, 3500));
+    for (const PileOrder order : {PileOrder::RightRows, PileOrder::RightColumns}) {
+        GameRow row = Freecells();
+        row.Home.PileOrder = order;
+        HandBoard right(row, "t0 KH QS JH");
+        right.Press("KH");
+        right.Drag("KH", 15000, 10000);
+        EXPECT_EQ(Stands(right, "JH"), At(15360, 10000));
+    }
+}
+
+// A replay's tick, a shortcut or a click on the stock may move cards while the mouse holds one. The
+// board must stay whole, whatever becomes of the drag.
+TEST(HeldCards, MayBeMovedCoveredOrUncoveredMeanwhile) {
+    GameRow row = Freecells();
+    row.Ext.TotalCards = 3;
+    row.Home.Order = OrderCode::DownAny;
+    row.Home.MultiOrder = OrderCode::DownSuit;
+    row.Waste = WasteDef{.Piles = 1, .StartY = 6000};
+    row.Stock.StockNum = StockNum::Redeal;
+    const struct {
+        std::string piles, before, held, meanwhile, target, after;
+    } cases[] = {
+        {"t0 TS, t1 JD, r0 9H", "9H>t0 undo", "TS", "redo", "2500,3000", "t0 TS 9H, t1 JD"},
+        {"t0 TS, t1 TC, t2 9H", "9H>t0", "9H", "undo", "2500,3000", "t0 TS, t1 TC, t2 9H"},
+        {"t0 QS, t1 KD, r0 JS", "JS>t0", "QS", "undo", "2500,3000", "t0 QS, t1 KD, r0 JS"},
+        {"t0 TS, w0 8C 9H", "", "9H", "slot", "1000,3000", "t0 TS, s0 -9H -8C"},
+        // What was a group no longer is one.
+        {"t0 QS JH, t1 JS, t2 KC", "JH>r0 JS>t0", "QS", "undo undo", "4000,3000",
+         "t0 QS JH, t1 JS, t2 KC"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.piles);
+        HandBoard board(row, c.piles);
+        board.games.Ext(
+            {.BaseX = 11900, .TotalCards = I16(int(board.table.VisibleCards().size()))});
+        board.Do(c.before);
+        board.Press(c.held);
+        EXPECT_TRUE(board.gestures.Dragging());
+        board.Do(c.meanwhile);
+        const std::size_t comma = c.target.find(',');
+        board.Drag(c.held, std::stod(c.target), std::stod(c.target.substr(comma + 1)));
+        board.Release(c.held);
+        EXPECT_EQ(board.Text(), c.after);
+        EXPECT_EQ(BoardFault(board.array, board.table, board.games), "");
+    }
+}
+
+}  // namespace
+}  // namespace varnello::test
