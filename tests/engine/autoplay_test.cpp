@@ -62,7 +62,6 @@ TEST(Runs, GoUpAsOneStepWhateverTheSettingsSay) {
                             {"t0 -5C " + run, "autoplay undo"}});
     GameRow row = RunGame();
     row.Home.Order = OrderCode::DownAny;
-    row.Goal.Piles = 4;
     // The move that completes a run is a step of its own.
     const std::string open = run.substr(0, run.size() - 3);
     ExpectPlays(row, {{"t0 " + open + ", t1 AD", "AD>t0 undo", "t0 " + run},
