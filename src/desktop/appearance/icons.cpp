@@ -6,8 +6,9 @@ QIcon SmallIcon(const QString& name) { return QIcon(QStringLiteral(":/icons/%1.p
 
 QIcon ProgramIcon() {
     QIcon icon;
-    icon.addFile(QStringLiteral(":/icons/app/varnello-16.png"));
-    icon.addFile(QStringLiteral(":/icons/app/varnello-32.png"));
+    for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
+        icon.addFile(QStringLiteral(":/icons/app/%1x%1/varnello.png").arg(size));
+    }
     return icon;
 }
 
