@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <cstdio>
 #include <memory>
+#include <string>
 
+#include "desktop/appearance/icons.h"
 #include "desktop/platform/settings_store.h"
 #include "desktop/platform/sounds.h"
 #include "desktop/platform/system.h"
@@ -25,10 +27,28 @@ void BeforeScreen(QtMsgType type, const QMessageLogContext&, const QString&) {
     std::_Exit(1);
 }
 
+/// Answers what needs no display; whether it did.
+bool AnswerInText(const std::string& question) {
+    std::string text(varnello::kProductName);
+    if (question == "--version") {
+        text.append(" ").append(varnello::kVersion);
+    } else if (question == "--help") {
+        text.append(
+            " plays 35 patience card games.\n\n"
+            "usage: varnello [toolkit option...]\n"
+            "       varnello --help | --version");
+    } else {
+        return false;
+    }
+    std::puts(text.c_str());
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace varnello;
+    if (argc == 2 && AnswerInText(argv[1])) return 0;
     usualHandler = qInstallMessageHandler(BeforeScreen);
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -36,6 +56,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(AfterScreen);
     QApplication::setApplicationName(ToQt(kProductName));
     QApplication::setApplicationVersion(ToQt(kVersion));
+    QApplication::setWindowIcon(ProgramIcon());
     QApplication::setDesktopFileName(QStringLiteral("varnello"));
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "desktop/appearance/icons.h"
 #include "desktop/platform/text.h"
 #include "engine/settings/data.h"
 
@@ -31,7 +30,6 @@ QLabel* Line(const QString& text, double scale, bool bold) {
 AboutDialog::AboutDialog(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
     setWindowTitle(QStringLiteral("About ") + ToQt(kProductName));
-    setWindowIcon(ProgramIcon());
     setFixedSize(kSize);
     QPalette white = palette();
     white.setColor(QPalette::Window, Qt::white);

@@ -51,7 +51,6 @@ protected:
 
 HelpWindow::HelpWindow(QWidget* parent)
     : QWidget(parent, Qt::Window), browser_(new Pages), find_(new QLineEdit) {
-    setWindowIcon(ProgramIcon());
     resize(kSize);
     auto* tools = new QToolBar;
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

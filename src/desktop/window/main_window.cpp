@@ -8,7 +8,6 @@
 #include <QScreen>
 #include <QStandardPaths>
 
-#include "desktop/appearance/icons.h"
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/choosers/players_dialog.h"
@@ -50,7 +49,6 @@ MainWindow::MainWindow(const System& system) : table_(new TableView) {
     menu_->UpdateMenus();
     toolbar_->UpdateToolbar();
     setWindowTitle(ToQt(kProductName));
-    setWindowIcon(ProgramIcon());
     resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
     move(screen()->availableGeometry().center() - rect().center());
     StartTimers();

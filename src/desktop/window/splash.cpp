@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QScreen>
 
-#include "desktop/appearance/icons.h"
 #include "desktop/platform/text.h"
 #include "engine/settings/data.h"
 
@@ -22,7 +21,6 @@ constexpr int kShownFor = 2000;  // milliseconds
 
 Splash::Splash() : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint) {
     setWindowTitle(ToQt(kProductName));
-    setWindowIcon(ProgramIcon());
     setFixedSize(kSplashSize);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
