@@ -39,6 +39,8 @@ until_true() {
 }
 window_of() { xdotool search --onlyvisible --pid "$running" --name "$1" 2>/dev/null || true; }
 windows() { [ "$(window_of "$1" | wc -l)" -eq "$2" ]; }
+# active PATTERN: whether the window with the focus has such a title.
+# shellcheck disable=SC2053
 active() { [[ "$(xdotool getactivewindow getwindowname 2>/dev/null)" == $1 ]]; }
 loaded() { grep -q " $prefix/lib/.*varnello/$1.so" "/proc/$running/maps"; }
 picture() { import -window root "$folder/$1.png"; }
