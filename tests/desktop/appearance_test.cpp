@@ -169,6 +169,23 @@ private Q_SLOTS:
         QVERIFY(preview.toImage() != PreviewOf("Penguin", 1.5).toImage());
     }
 
+    void PreviewsShowAllOfATable() {
+        for (const GameRow& game : kCatalogue) {
+            const QImage preview = PreviewOf(std::string(game.Name), 1).toImage();
+            // A card or slot that is cut off would show at the edge.
+            const QRect inner = preview.rect().adjusted(1, 1, -1, -1);
+            std::set<QRgb> edge;
+            std::set<QRgb> all;
+            for (int y = 0; y < preview.height(); ++y) {
+                for (int x = 0; x < preview.width(); ++x) {
+                    all.insert(preview.pixel(x, y));
+                    if (!inner.contains(x, y)) edge.insert(preview.pixel(x, y));
+                }
+            }
+            QVERIFY2(edge.size() == 1 && all.size() > 100, game.Name.data());
+        }
+    }
+
     void SettingsAreOnDiskAtOnce() {
         FileSettings store;
         QCOMPARE(store.Read("Data", "Autoplay", "1"), "1");
