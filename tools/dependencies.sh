@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by ./check and ./play: makes sure that everything named in debian/control is installed.
 # debian/control is the one list of what the project needs.
 
