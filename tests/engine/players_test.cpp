@@ -132,6 +132,17 @@ TEST_F(Players, TakeTheirResultsAlong) {
     EXPECT_TRUE(engine.EnterPlayer("", "Bob")) << "a new player may find old results";
 }
 
+TEST_F(Players, WhoseNamesCanBeNoFileCountAsNoneInEditedSettings) {
+    for (const char* name : {"../Ada", "/tmp/x", "  ", "a\tb"}) {
+        data.SetPlayer(2, name, true);
+        EXPECT_EQ(data.TotalPlayers(), 1) << name;
+        engine.InitMain();
+        EXPECT_EQ(data.CurPlayer(), "Player1") << name;
+        EXPECT_TRUE(data.AddPlayer("Ada"));
+        EXPECT_EQ(data.GetPlayer(2), "Ada") << "its slot is free";
+    }
+}
+
 TEST_F(Players, LeaveNothingBehindButTheirOrder) {
     for (const char* name : {"B", "C", "D"}) engine.EnterPlayer("", name);
     for (const char* file : {"B.sre", "C.sre", "D.sre"}) WriteFile(File(file), "x");

@@ -12,16 +12,27 @@ constexpr std::int16_t kCurrentSlot = 100;
 
 }  // namespace
 
-std::int16_t cData::TotalPlayers() const { return CountSlots(kUsersSection, kMaxPlayers); }
+std::int16_t cData::TotalPlayers() const {
+    std::int16_t count = 0;
+    for (std::int16_t slot = 1; slot <= kMaxPlayers; ++slot) {
+        if (!GetPlayer(slot).empty()) ++count;
+    }
+    return count;
+}
 
-std::string cData::GetPlayer(std::int16_t slot) const { return Slot(kUsersSection, slot); }
+// A name becomes part of a file's path. One that no dialog would have taken, but that stands in
+// settings edited by hand, counts as none.
+std::string cData::GetPlayer(std::int16_t slot) const {
+    std::string name = Slot(kUsersSection, slot);
+    return IsPlayerName(name) ? name : std::string();
+}
 
 void cData::SetPlayer(std::int16_t slot, std::string_view name, bool makeCurrent) {
     Slot(kUsersSection, slot, name);
     if (makeCurrent) CurPlayer(name);
 }
 
-std::string cData::CurPlayer() const { return Slot(kUsersSection, kCurrentSlot); }
+std::string cData::CurPlayer() const { return GetPlayer(kCurrentSlot); }
 
 void cData::CurPlayer(std::string_view name) { Slot(kUsersSection, kCurrentSlot, name); }
 
