@@ -20,6 +20,8 @@ public:
     /// nothing.
     void Run(std::string_view line);
 
+    const Engine& engine() const { return engine_; }
+
 private:
     void Play(std::string_view command, Words& words);
     bool PlayClock(std::string_view command, Words& words);
