@@ -1,0 +1,32 @@
+# Sourced by the tests of faults: common.sh PROGRAM, with varnello-script as the program.
+set -euo pipefail
+program=$1
+folder=$(mktemp -d)
+chmod 755 "$folder"
+trap 'rm -rf "$folder"' EXIT
+data=$folder/data
+scores=$data/Player1.sre
+mkdir "$data"
+
+die() { echo "$*" >&2; exit 1; }
+
+# games FIRST LAST: a script that books these deals as not won.
+games() { for ((i = $1; i <= $2; ++i)); do printf 'start %d Stripped Freecell\nclose\n' "$i"; done; }
+
+# booked FILE: the numbers of the deals in its whole lines, in file order.
+booked() { LC_ALL=C sed -nE 's/^"[^"]+","Stripped Freecell",([0-9]+),0,0,0,0\r$/\1/p' "$1"; }
+
+# starts_with FILE OLDER: whether every byte of OLDER still stands at the front of FILE.
+starts_with() { cmp -s -n "$(stat -c %s "$2")" "$1" "$2"; }
+
+# until_true COMMAND...: waits for it, at most ten seconds.
+until_true() {
+    for _ in $(seq 500); do
+        "$@" && return
+        sleep 0.02
+    done
+    die "waited in vain for: $*"
+}
+
+# refused OUTPUT COUNT: whether so many results were reported as not written.
+refused() { [ "$(grep -c '^message: The result of this game could not be written' "$1")" = "$2" ]; }
