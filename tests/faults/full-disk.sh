@@ -6,6 +6,7 @@ if [ "${2:-}" != mounted ]; then
 fi
 source "$(dirname "$0")/common.sh" "$1"
 mount -t tmpfs -o size=32k tmpfs "$data" || exit 77
+trap 'umount "$data"; rm -rf "$folder"' EXIT
 
 games 1 40 | "$program" "$data" >"$folder/out"
 cp "$scores" "$folder/before"
@@ -23,4 +24,3 @@ rm "$data/filler"
 games 201 203 | "$program" "$data" >"$folder/out"
 starts_with "$scores" "$folder/before" || die "old results changed when there was room again"
 [ "$(booked "$scores")" = "$(seq "$kept"; seq 201 203)" ] || die "a half line spoils the next one"
-umount "$data"
