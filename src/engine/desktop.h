@@ -26,7 +26,7 @@ class Clock {
 public:
     virtual ~Clock() = default;
     virtual DateTime Now() const = 0;
-    /// Any value that differs from run to run and moment to moment.
+    /// Any value that differs from run to run and moment to moment in its first 21 binary digits.
     virtual double Timer() const = 0;
 };
 

@@ -1,10 +1,14 @@
+#include <QDateTime>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QSet>
 #include <QSignalSpy>
 
+#include "desktop/platform/system.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/window/splash.h"
+#include "engine/null_desktop.h"
 #include "fixture.h"
 
 // Start, end, menus, dialogs: what the window does around the game.
@@ -55,6 +59,20 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().data.CurPlayer(), "Player1");
         QVERIFY(std::filesystem::is_directory(fixture.Folder()));
         QCOMPARE(fixture.window.windowTitle(), "Varnello");
+    }
+
+    void EachRunDrawsAnotherNumber() {
+        const auto moment = [] { return QDateTime::currentMSecsSinceEpoch(); };
+        SystemClock clock;
+        QSet<double> numbers;
+        for (int run = 0; run < 20; ++run) {
+            for (const qint64 last = moment(); moment() == last;) continue;
+            NullDesktop nothing;
+            Engine engine({nothing.settings, clock, nothing.surface, nothing.sounds,
+                           nothing.dialogs, std::filesystem::path()});
+            numbers += engine.RandomGNo().Value();
+        }
+        QCOMPARE(numbers.size(), 20);
     }
 
     void TheSelectorStartsTheChosenGameForTheChosenPlayer() {
