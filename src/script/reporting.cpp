@@ -1,8 +1,8 @@
 #include <utility>
 
+#include "engine/flow/session_report.h"
 #include "engine/reports/high_scores.h"
 #include "engine/reports/log_report.h"
-#include "engine/reports/session_report.h"
 #include "engine/reports/statistics.h"
 #include "script/scripted_table.h"
 
@@ -141,6 +141,7 @@ bool ScriptedTable::ReportGames(std::string_view what, Words& words) {
 }
 
 void ScriptedTable::Export(const std::string& name) {
+    if (std::filesystem::path(name).has_parent_path()) throw BadLine("not a file's name: " + name);
     dialogs_.chosenFile = ChosenFile{.Path = engine_.data.AppDir() / name, .Name = name};
     engine_.ExportStat();
 }

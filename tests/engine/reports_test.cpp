@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <random>
 
+#include "engine/flow/session_report.h"
 #include "engine/reports/high_scores.h"
 #include "engine/reports/log_report.h"
-#include "engine/reports/session_report.h"
 #include "engine/reports/statistics.h"
 #include "fixture.h"
 

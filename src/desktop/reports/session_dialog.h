@@ -9,7 +9,7 @@
 #include "desktop/reports/report_charts.h"
 #include "desktop/reports/report_view.h"
 #include "engine/flow/engine.h"
-#include "engine/reports/session_report.h"
+#include "engine/flow/session_report.h"
 
 namespace varnello {
 

@@ -1,4 +1,4 @@
-#include "engine/reports/session_report.h"
+#include "engine/flow/session_report.h"
 
 #include <algorithm>
 
