@@ -6,16 +6,16 @@ set -euo pipefail
 tools=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [ "${1:-}" != --inside ]; then
     mkdir -p "$2"
-    # From the root folder and without the caller's search path, as a menu would start it.
-    cd /
-    exec env SCREEN=1100x860 "$tools/on-virtual-display.sh" "$tools/try-installed.sh" --inside \
-        "$(realpath "$1")" "$(realpath "$2")"
+    prefix=$(realpath "$1") folder=$(realpath "$2")
+    cd / # where a menu starts it
+    exec env SCREEN=1100x860 "$tools/on-virtual-display.sh" "$tools/try-installed.sh" --inside "$prefix" "$folder"
 fi
 prefix=$2 folder=$3
 programs=$prefix/bin
 [ -x "$prefix/games/varnello" ] && programs=$prefix/games
 
 export XDG_CONFIG_HOME=$folder/config XDG_DATA_HOME=$folder/data QT_QPA_PLATFORM=xcb
+rm -rf "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$folder/script"
 mkdir -p "$XDG_CONFIG_HOME/Varnello"
 printf '[Data]\nLastGName=Stripped Freecell\nAutoplay=1\n' >"$XDG_CONFIG_HOME/Varnello/Varnello.ini"
 "$programs/varnello" &
