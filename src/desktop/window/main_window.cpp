@@ -27,7 +27,8 @@ namespace {
 
 constexpr int kToolbarHeight = 25;        // pixels of the strip along the top
 constexpr QSize kRestoredSize(673, 437);  // client area of the restored window
-constexpr int kMenuPoll = 100;            // milliseconds
+constexpr QSize kFileDialogSize(760, 500);
+constexpr int kMenuPoll = 100;  // milliseconds
 constexpr int kCounterPoll = 500;
 constexpr int kReplayStep = 500;
 
@@ -215,6 +216,7 @@ std::optional<ChosenFile> MainWindow::AskForTextFile(const std::string& proposal
                        QStringLiteral("Text File (*.txt)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);  // asks before it overwrites
     dialog.selectFile(ToQt(proposal));
+    dialog.resize(kFileDialogSize);
     if (dialog.exec() != QDialog::Accepted) return {};
     const QString file = dialog.selectedFiles().value(0);
     return ChosenFile{.Path = file.toStdU16String(),
