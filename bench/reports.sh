@@ -11,6 +11,7 @@ for count in 1000 10000 100000 1000000; do
     "$build/bench/varnello-make-scores" "$folder" "$count"
     echo "== $count games"
     "$build/bench/varnello-reports-bench" "$folder"
+    QT_QPA_PLATFORM=offscreen "$build/bin/varnello-windows-bench" "$folder"
     python3 - "$folder" <<'END'
 import csv, glob, statistics, sys, time
 def read():
