@@ -119,6 +119,16 @@ TEST_F(Reports, LaterOfEqualScoresRanksHigherAndTwentyHaveRoom) {
     EXPECT_TRUE(Ranked(&ScoreRecord::Score).empty());
 }
 
+TEST_F(Reports, FinishedGamesRankByWhatIsAskedFor) {
+    Write({Game(5, 30, 10), Game(9, 20, 40), Game(7, 10, 20)});
+    const auto best = [&](FinishedBy by) {
+        return Line(FinishedRows(engine.score, by, engine.dates()), 0);
+    };
+    EXPECT_EQ(best(FinishedBy::Score), "1|Player1|Freecell|9|0:00:40|20|1/31/2026|7|");
+    EXPECT_EQ(best(FinishedBy::Moves), "1|Player1|Freecell|7|0:00:20|10|1/31/2026|7|");
+    EXPECT_EQ(best(FinishedBy::Time), "1|Player1|Freecell|5|0:00:10|30|1/31/2026|7|");
+}
+
 /// The ranking of won games by the plainest means: place by place, entry by entry.
 std::vector<int> SlowFinSort(const std::vector<ScoreRecord>& games,
                              std::int32_t ScoreRecord::*key) {
@@ -195,7 +205,7 @@ TEST_F(Reports, LogPassesByCalendarAge) {
 TEST_F(Reports, ExportKeepsItsColumns) {
     engine.data.AddPlayer("A name of 25 letters, yes");
     clock.Set({.month = 11, .day = 8, .hour = 13});
-    Write({Game(100, 300, 700), Game(20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
+    Write({Game(100, 300, 700), Game(-20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
     dialogs.chosenFile = ChosenFile{folder.Path() / "report", "report"};
     engine.ExportStat();
     EXPECT_EQ(Heard(), "message: Statistics Successfully Exported to report\n");
@@ -205,15 +215,14 @@ TEST_F(Reports, ExportKeepsItsColumns) {
          {"Varnello Score Board\r\n \r\n*************************\r\n \r\n"
           "Created By    Player1\r\nCreated Date  11/8/2026 1:00:00 PM\r\n \r\n",
           "Played        Won           Lost          Time          Moves         Score\r\n"
-          " 2             1             1            0:12:05        350           120 \r\n \r\n "
+          " 2             1             1            0:12:05        350           80 \r\n \r\n "
           "\r\n",
           "\r\nA name of 25 letters, yes    0             0             0            0:00:00",
           "\r\nZoë            2             1             1            0:12:05",
           "\r\nGame                     Played           Won           Time          Moves         "
           "Score\r\n",
           "\r\nBaker's Spider            1                0            0:00:25        50           "
-          " 20 "
-          "\r\n",
+          "-20 \r\n",
           "\r\nFull Statistics\r\n--------------\r\n",
           "\r\n1/31/2026     Freecell      Zoë           Won            100           300          "
           "0:11:40      7 \r\n",

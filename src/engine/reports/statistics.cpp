@@ -98,6 +98,7 @@ std::vector<PeriodSummary> PeriodRows(const cScore& score, const PeriodChoice& c
 
 std::vector<ReportRow> PeriodLines(const std::vector<PeriodSummary>& periods) {
     std::vector<ReportRow> rows;
+    rows.reserve(periods.size());
     for (const PeriodSummary& period : periods) {
         rows.push_back({{period.Label, static_cast<double>(rows.size())},
                         NumberCell(period.Played),

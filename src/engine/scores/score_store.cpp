@@ -59,6 +59,7 @@ void cScore::OpenAllScore() {
         files.push_back(std::async(ReadScores, ScorePath(data_, player), player));
     }
     std::vector<ScoreList> lists;
+    lists.reserve(files.size());
     for (auto& file : files) lists.push_back(file.get());
     list_.Reserve(std::accumulate(lists.begin(), lists.end(), std::size_t{0},
                                   [](auto sum, const auto& list) { return sum + list.Size(); }));
