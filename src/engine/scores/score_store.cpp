@@ -1,8 +1,10 @@
 #include "engine/scores/score_store.h"
 
+#include <algorithm>
 #include <future>
 #include <limits>
 #include <numeric>
+#include <system_error>
 
 #include "engine/common/text_file.h"
 
@@ -10,9 +12,14 @@ namespace varnello {
 namespace {
 
 constexpr std::size_t kMaxSesGames = std::numeric_limits<std::int16_t>::max();
+constexpr std::uintmax_t kShortLine = 40;            // bytes; few lines are shorter
+constexpr std::uintmax_t kMostReserved = 4'000'000;  // records, whatever a file's size promises
 
 ScoreList ReadScores(const std::filesystem::path& file, const std::string& player) {
     ScoreList list;
+    std::error_code none;
+    const std::uintmax_t bytes = std::filesystem::file_size(file, none);
+    if (!none) list.Reserve(std::min(bytes / kShortLine, kMostReserved));
     const std::uint16_t number = list.AddPlayer(player);
     ForEachLine(file, [&](std::string_view line) {
         if (const auto fields = ReadScoreLine(line)) list.Add(*fields, number);
