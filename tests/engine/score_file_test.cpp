@@ -81,20 +81,23 @@ TEST_F(ScoreFiles, UnfinishedLineGetsItsEndFirst) {
 }
 
 TEST_F(ScoreFiles, AreReadLineByLineWithoutTheDamagedOnes) {
-    engine.data.AddPlayer("Ada");
-    engine.data.AddPlayer("Nobody");
+    for (const char* player : {"Ada", "Nobody", "Bob"}) engine.data.AddPlayer(player);
     const std::string good = kGood;
     WriteFile(ScoreFile(), good + "\r\n" + "damaged\r\n\r\n" + good + "\n" + good);
-    WriteFile(ScorePath(engine.data, "Ada"), "\"d\",\"Zodiac\",\"12\",1,2,-3,0\r\n");
+    WriteFile(ScorePath(engine.data, "Ada"),
+              "\"d\",\"Zodiac\",\"12\",1,2,-3,0\r\n\"e\",\"A\",\"x\",1,1,1,0\n");
+    WriteFile(ScorePath(engine.data, "Bob"), "\"f\",\"B\",\"y\",1,2,5,0\r\n");
     WriteFile(ScorePath(engine.data, "Stranger"), good + "\r\n");
-    engine.score.OpenAllScore();
-    ASSERT_EQ(engine.score.ScoreTop(), 4);
-    EXPECT_EQ(engine.score.GetScore(3).Player, "Player1");
-    EXPECT_EQ(engine.score.GetScore(3).Score, 4711);
-    EXPECT_EQ(engine.score.GetScore(4).Player, "Ada");
-    EXPECT_EQ(engine.score.GetScore(4).Score, -3);
-    engine.score.OpenAllScore();
-    EXPECT_EQ(engine.score.ScoreTop(), 4) << "opening reads afresh";
+    for (int round = 0; round < 2; ++round) {
+        engine.score.OpenAllScore();
+        ASSERT_EQ(engine.score.ScoreTop(), 6) << "opening reads afresh";
+        EXPECT_EQ(ScoreLine(engine.score.GetScore(3)), good);
+        EXPECT_EQ(engine.score.GetScore(3).Player, "Player1");
+        EXPECT_EQ(engine.score.GetScore(4),
+                  (ScoreRecord{"d", "Zodiac", GameNumber::Text("12"), 1, 2, -3, 0, "Ada"}));
+        EXPECT_EQ(engine.score.GetScore(6),
+                  (ScoreRecord{"f", "B", GameNumber::Text("y"), 1, 2, 5, 0, "Bob"}));
+    }
     engine.score.CloseScore();
     EXPECT_EQ(engine.score.ScoreTop(), 0);
 }

@@ -96,7 +96,7 @@ ScoreSummary cScore::PlayerSummary(std::string_view Player) const {
 
 ScoreRecord cScore::GetGameScore(std::string_view Game, std::int32_t N) const {
     const auto id = list_.Games().Find(Game);
-    if (!id || N < 1) return {};
+    if (!id) return {};
     const auto& positions = Sums().byGame[*id].positions;
     const auto index = static_cast<std::size_t>(N - 1);
     return index < positions.size() ? list_.Record(positions[index]) : ScoreRecord{};
