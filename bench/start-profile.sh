@@ -13,7 +13,7 @@ LD_DEBUG=statistics timeout 1 "$program" 2>&1 | grep -E 'total startup|for reloc
 echo "== by library and by function, until the selector has been open for a while"
 perf record -q -F 5000 -o "$home/perf.data" timeout 4 "$program" >/dev/null 2>&1 || true
 for kind in dso symbol; do
-    perf report -i "$home/perf.data" --stdio --sort "$kind" 2>/dev/null | grep -E '^ +[0-9.]+%' | head -n 12
+    perf report -i "$home/perf.data" --stdio --sort "$kind" 2>/dev/null | grep -E '^ +[0-9.]+%' | head -n 12 || true
 done
 echo "== modules loaded"
 strace -f -e trace=openat -o "$home/files" timeout 4 "$program" >/dev/null 2>&1 || true
