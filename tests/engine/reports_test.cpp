@@ -85,6 +85,7 @@ TEST_F(Reports, PeriodsFollowTheCalendar) {
     EXPECT_EQ(month.Label, "Jan 26");
     EXPECT_EQ(month.Score, 3);
     EXPECT_EQ(month.Lost, 1);
+    EXPECT_EQ(AddMonths(now, -1), (DateTime{.month = 2, .day = 28, .hour = 23}));
     using Row = std::pair<std::string, int>;
     const auto scores = [&](std::size_t choice) {
         std::vector<Row> rows;
