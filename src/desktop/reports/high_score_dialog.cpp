@@ -13,7 +13,7 @@
 namespace varnello {
 namespace {
 
-constexpr QSize kSize(900, 620);
+constexpr QSize kSize(1000, 620);
 
 struct Ranking {
     const char* text;
