@@ -28,6 +28,10 @@ constexpr int kSessionScore = 6;
 constexpr int kDetailTime = 1;
 constexpr int kDetailScore = 3;
 
+GameFigures RunningFigures(const cData& data) {
+    return {data.CurScore, data.CurMoves, data.CurTime};
+}
+
 QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
     auto* label = new QLabel(ToQt(text));
     rows->addWidget(label);
@@ -135,8 +139,7 @@ void SessionDialog::FillTable() {
         table_.push_back({game.Score, game.Moves, game.Time});
     }
     if (!running_) return;
-    const cData& data = engine_.data;
-    table_.push_back({data.CurScore, data.CurMoves, data.CurTime});
+    table_.push_back(RunningFigures(engine_.data));
 }
 
 void SessionDialog::Tick() {
@@ -152,8 +155,7 @@ void SessionDialog::Tick() {
 
 void SessionDialog::RefreshChart() {
     if (!running_ || !engine_.data.GameRunning) return;
-    const cData& data = engine_.data;
-    table_.back() = {data.CurScore, data.CurMoves, data.CurTime};
+    table_.back() = RunningFigures(engine_.data);
     ShowFigures(*chChart_, table_);
 }
 

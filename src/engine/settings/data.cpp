@@ -32,7 +32,7 @@ const NumberKey& SwitchOf(Sound event) {
 
 bool IsWholeNumber(std::string_view text) {
     if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+    return !text.empty() && IsAllDigits(text);
 }
 
 }  // namespace
