@@ -29,7 +29,7 @@ BENCHMARK_CAPTURE(BM_StartGame, Zodiac_104_cards, "Zodiac");
 
 /// A board of its own, where moves set off nothing.
 struct MoveBench : MoveFollower {
-    bool GameRunning() const override { return false; }
+    bool Playing() const override { return false; }
     void MoveBegins(const CardMove&) override {}
     void SaveTrans(const CardMove&) override {}
     void AutoPlay() override {}
@@ -38,7 +38,7 @@ struct MoveBench : MoveFollower {
     MoveBench() {
         SelectGame(games, "Freecell");
         array.Init(1);
-        array.MoveCard(0, {Cell::Home, 0, 0}, MoveKind::Deal, 0, 0, FaceMode::Open);
+        array.MoveCard({.PicId = 0, .To = {Cell::Home, 0, 0}, .tMod = MoveKind::Deal});
     }
 
     cGames games;
@@ -50,10 +50,10 @@ struct MoveBench : MoveFollower {
 
 void BM_MoveCard(benchmark::State& state) {
     MoveBench bench;
-    std::int16_t pile = 0;
+    int pile = 0;
     for (auto _ : state) {
-        pile = static_cast<std::int16_t>(1 - pile);
-        bench.array.MoveCard(0, {Cell::Home, pile, 0}, MoveKind::Play, 3, 0, FaceMode::Open);
+        pile = 1 - pile;
+        bench.array.MoveCard({.PicId = 0, .To = {Cell::Home, pile, 0}, .Speed = 3});
     }
 }
 BENCHMARK(BM_MoveCard);

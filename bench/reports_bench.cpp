@@ -60,8 +60,8 @@ int main(int argc, char** argv) {
     }
     NullDesktop nothing;
     PresentClock clock;
-    Engine engine(Desktop{nothing.settings, clock, nothing.surface, nothing.sounds, nothing.dialogs,
-                          argv[1]});
+    Engine engine(Desktop{nothing.settings, clock, nothing.surface, nothing.sounds,
+                          nothing.messages, argv[1]});
     cData& data = engine.data;
     for (std::int16_t slot = 1;
          std::filesystem::exists(ScorePath(data, "Player" + std::to_string(slot))); ++slot) {

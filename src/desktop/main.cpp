@@ -75,7 +75,7 @@ int main(int argc, char** argv) {
             QObject::connect(window.get(), &MainWindow::Closed, &application,
                              [] { QApplication::exit(0); });
             window->showMaximized();
-            window->ShowSelectModeless();
+            window->ShowSelect();
         },
         Qt::QueuedConnection);
     splash->show();

@@ -2,11 +2,11 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "engine/common/calendar.h"
+#include "engine/definitions/codes.h"
 
 /// What the engine asks of a desktop. The window implements these on its toolkit, the scripted
 /// table and the tests in a few lines each.
@@ -42,17 +42,26 @@ public:
 
 inline const DateForms kFileDateForms;
 
-/// The playing surface. The engine's `Table` is the truth about what lies where; the surface is
-/// told only when to show it.
+struct KesCard;
+struct KesEmpty;
+
+/// The playing surface. The engine's `Table` is the truth about what lies where, at once. The
+/// surface is told in order what a person is to see of it, and shows that in its own time: no call
+/// waits, and none calls back.
 class TableSurface {
 public:
     virtual ~TableSurface() = default;
-    /// Shows the table as it is now.
-    virtual void Repaint() = 0;
-    /// The same for one step of a card's flight, held long enough to be seen.
-    virtual void RepaintFlight() = 0;
-    /// Lets the event loop run once.
-    virtual void Yield() = 0;
+    /// The card looks like this from now on.
+    virtual void CardChanged(PicID id, const KesCard& card) = 0;
+    /// The same, but it flies there from where it was, in at least `steps` places; 1 or more.
+    virtual void CardFlies(PicID id, const KesCard& card, int steps, MoveKind kind) = 0;
+    /// The slot of a pile looks like this from now on.
+    virtual void SlotChanged(Cell cell, int pile, const KesEmpty& slot) = 0;
+    /// The table is empty. What hasn't been shown yet is dropped.
+    virtual void Cleared() = 0;
+    /// Whether something is still to be shown. A surface that says so calls `Engine::Shown` when it
+    /// has come to the end.
+    virtual bool Showing() const = 0;
 };
 
 enum class Sound { Start, CardUp, CardDown, AutoPlay, Undo, Redo, Win };
@@ -60,7 +69,8 @@ enum class Sound { Start, CardUp, CardDown, AutoPlay, Undo, Redo, Win };
 class SoundPlayer {
 public:
     virtual ~SoundPlayer() = default;
-    /// Starts the event's wave and returns; a wave that still plays is cut off.
+    /// Has the event heard, in order with what the surface is told. A wave that still plays is cut
+    /// off.
     virtual void Play(Sound event) = 0;
 };
 
@@ -70,20 +80,15 @@ struct ChosenFile {
     std::string Name;  ///< as messages call it
 };
 
-class Dialogs {
+/// What a person is told, in a box with the product name as its title. The engine asks nothing:
+/// whoever calls it has asked before.
+class Messages {
 public:
-    virtual ~Dialogs() = default;
-    /// An information box with the product name as its title.
+    virtual ~Messages() = default;
+    /// Information. Shown when the command that told it has returned.
     virtual void Inform(const std::string& text) = 0;
-    /// A box with a stop sign and the product name as its title.
+    /// The same with a stop sign.
     virtual void Refuse(const std::string& text) = 0;
-    /// A question with a question mark, or with a stop sign where something is lost; true for Yes.
-    virtual bool Ask(const std::string& text) = 0;
-    virtual bool AskToStop(const std::string& text) = 0;
-    /// A save-file dialog for text files that asks before a file is overwritten; empty on cancel.
-    virtual std::optional<ChosenFile> AskForTextFile(const std::string& proposal) = 0;
-    /// The modal game won dialog. While it loads it calls `Engine::LoadFinish`.
-    virtual void ShowFinish() = 0;
 };
 
 struct Desktop {
@@ -91,7 +96,7 @@ struct Desktop {
     Clock& clock;
     TableSurface& surface;
     SoundPlayer& sounds;
-    Dialogs& dialogs;
+    Messages& messages;
     std::filesystem::path dataFolder;  ///< `AppDir`
     const DateForms& dates = kFileDateForms;
 };

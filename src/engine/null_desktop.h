@@ -23,9 +23,11 @@ private:
 
 class NoSurface : public TableSurface {
 public:
-    void Repaint() override {}
-    void RepaintFlight() override {}
-    void Yield() override {}
+    void CardChanged(PicID, const KesCard&) override {}
+    void CardFlies(PicID, const KesCard&, int, MoveKind) override {}
+    void SlotChanged(Cell, int, const KesEmpty&) override {}
+    void Cleared() override {}
+    bool Showing() const override { return false; }
 };
 
 class NoSounds : public SoundPlayer {
@@ -33,14 +35,10 @@ public:
     void Play(Sound) override {}
 };
 
-class NoDialogs : public Dialogs {
+class NoMessages : public Messages {
 public:
     void Inform(const std::string&) override {}
     void Refuse(const std::string&) override {}
-    bool Ask(const std::string&) override { return true; }
-    bool AskToStop(const std::string&) override { return true; }
-    std::optional<ChosenFile> AskForTextFile(const std::string&) override { return {}; }
-    void ShowFinish() override {}
 };
 
 class StillClock : public Clock {
@@ -55,10 +53,10 @@ struct NullDesktop {
     StillClock clock;
     NoSurface surface;
     NoSounds sounds;
-    NoDialogs dialogs;
+    NoMessages messages;
 
     Desktop Interfaces(const std::filesystem::path& dataFolder) {
-        return {settings, clock, surface, sounds, dialogs, dataFolder};
+        return {settings, clock, surface, sounds, messages, dataFolder};
     }
 };
 

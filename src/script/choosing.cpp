@@ -29,10 +29,11 @@ bool ScriptedTable::Choose(std::string_view command, Words& words) {
         const std::string_view answer = words.Word();
         words.End();
         if (answer != "yes" && answer != "no") throw BadLine("answer takes yes or no");
-        dialogs_.answer = answer == "yes";
+        answer_ = answer == "yes";
     } else if (command == "choose") {
         const std::string number = Unquoted(words.Word());
-        engine_.ChooseNumber(words.Game(), number);
+        const std::string game = words.Game();
+        if (engine_.AcceptNumber(number)) engine_.StartGame(game, GameNumber::Text(number));
     } else if (command == "favorite") {
         words.End();
         engine_.AddFavorite();
@@ -70,7 +71,7 @@ bool ScriptedTable::Keep(std::string_view command, Words& words) {
         const std::string name = words.Rest();
         const bool deletable = engine_.data.FindPlayer(name) != 0;
         if (!deletable || name == engine_.data.CurPlayer()) throw BadLine("not to be deleted");
-        engine_.DeletePlayer(name);
+        if (Ask(kDeletePlayerQuestion)) engine_.DeletePlayer(name);
     } else {
         return false;
     }

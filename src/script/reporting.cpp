@@ -142,8 +142,7 @@ bool ScriptedTable::ReportGames(std::string_view what, Words& words) {
 
 void ScriptedTable::Export(const std::string& name) {
     if (std::filesystem::path(name).has_parent_path()) throw BadLine("not a file's name: " + name);
-    dialogs_.chosenFile = ChosenFile{.Path = engine_.data.AppDir() / name, .Name = name};
-    engine_.ExportStat();
+    engine_.ExportStat({.Path = engine_.data.AppDir() / name, .Name = name});
 }
 
 bool ScriptedTable::ReportOn(std::string_view command, Words& words) {
@@ -153,7 +152,7 @@ bool ScriptedTable::ReportOn(std::string_view command, Words& words) {
         Export(words.Rest());
     } else if (command == "clear-statistics") {
         words.End();
-        engine_.ClearStat();
+        if (Ask(kClearStatQuestion)) engine_.ClearStat();
     } else {
         return false;
     }

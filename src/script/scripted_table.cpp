@@ -37,11 +37,12 @@ std::array<int, N> Split(std::string_view text, const std::array<std::size_t, N>
 ScriptedTable::ScriptedTable(const std::filesystem::path& folder, std::ostream& out)
     : out_(out),
       sounds_(out),
-      dialogs_(out),
-      engine_({store_, clock_, surface_, sounds_, dialogs_, folder}) {
-    dialogs_.finish = [this] {
+      messages_(out),
+      engine_({store_, clock_, surface_, sounds_, messages_, folder}) {
+    // The won dialog: it is seen and heard with the winning move, and books when that has returned.
+    engine_.onWon = [this] {
         PrintFinish(out_, engine_);
-        engine_.LoadFinish();
+        engine_.data.PlaySound(Sound::Win);
     };
     engine_.onMove = [this](const CardMove& move) {
         if (trace_) PrintMove(out_, move);
@@ -67,6 +68,12 @@ void ScriptedTable::Play(std::string_view command, Words& words) {
                        Choose(command, words) || Keep(command, words) || Look(command, words) ||
                        ReportOn(command, words);
     if (!known) throw BadLine("unknown command: " + std::string(command));
+    if (engine_.phase() == Phase::Won) engine_.EndGame(Outcome::Won);
+}
+
+bool ScriptedTable::Ask(std::string_view question) {
+    out_ << "question: " << question << '\n';
+    return answer_;
 }
 
 void ScriptedTable::SetClock(Words& words) {

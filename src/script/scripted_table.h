@@ -33,6 +33,8 @@ private:
     bool Look(std::string_view command, Words& words);
     bool ReportOn(std::string_view command, Words& words);
 
+    /// Prints a question that the window would ask; the answer that was set last.
+    bool Ask(std::string_view question);
     void SetClock(Words& words);
     void PlayFavorite(Words& words);
     void RenamePlayer(const std::string& names);
@@ -52,7 +54,8 @@ private:
     ScriptClock clock_;
     NoSurface surface_;
     PrintedSounds sounds_;
-    PrintedDialogs dialogs_;
+    PrintedMessages messages_;
+    bool answer_ = true;  ///< to the questions to come
     bool trace_ = false;
     PicID pressed_ = kNoCard;
     Engine engine_;

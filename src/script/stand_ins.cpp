@@ -34,16 +34,10 @@ void PrintedSounds::Play(Sound event) {
     if (on) out_ << "sound: " << SoundName(event) << '\n';
 }
 
-void PrintedDialogs::Print(const char* what, std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    out_ << what << text << '\n';
-}
-
-void PrintedDialogs::Inform(const std::string& text) { Print("message: ", text); }
-
-bool PrintedDialogs::Ask(const std::string& text) {
-    Print("question: ", text);
-    return answer;
+void PrintedMessages::Inform(const std::string& text) {
+    std::string line = text;
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    out_ << "message: " << line << '\n';
 }
 
 }  // namespace varnello::script

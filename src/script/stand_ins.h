@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <ostream>
 #include <string>
 
@@ -36,23 +35,14 @@ private:
     std::ostream& out_;
 };
 
-/// Prints message boxes; the won dialog is handed to `finish`.
-class PrintedDialogs : public Dialogs {
+/// Prints message boxes.
+class PrintedMessages : public Messages {
 public:
-    explicit PrintedDialogs(std::ostream& out) : out_(out) {}
+    explicit PrintedMessages(std::ostream& out) : out_(out) {}
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override { Inform(text); }
-    bool Ask(const std::string& text) override;
-    bool AskToStop(const std::string& text) override { return Ask(text); }
-    std::optional<ChosenFile> AskForTextFile(const std::string&) override { return chosenFile; }
-    bool answer = true;
-    std::optional<ChosenFile> chosenFile;
-    void ShowFinish() override { finish(); }
-    std::function<void()> finish;
 
 private:
-    void Print(const char* what, std::string text);
-
     std::ostream& out_;
 };
 

@@ -20,7 +20,7 @@ public:
     Table table;
 
 private:
-    bool GameRunning() const override { return false; }
+    bool Playing() const override { return false; }
     void MoveBegins(const CardMove&) override {}
     void SaveTrans(const CardMove&) override {}
     void AutoPlay() override {}
@@ -30,10 +30,12 @@ private:
     NullDesktop nothing_;
     cData data_{nothing_.settings, nothing_.sounds, {}};
     Generator generator_;
-    std::shared_ptr<cTrans> trans_;
 
 public:
     cArray array{games, table, generator_, nothing_.surface, *this};
+
+private:
+    cTrans trans_{array, table, data_};
 };
 
 }  // namespace varnello::test

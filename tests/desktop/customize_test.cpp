@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(!dialog.clearRecent()->isEnabled());
         QCOMPARE(fixture.engine().data.RecentCount(), 0);
         QCOMPARE(asked.value(1), "Are you sure you want to clear the Recent Games List ?");
-        QCOMPARE(asked.value(2), "Recent Games List has been Cleared.");
+        QTRY_COMPARE(asked.value(2), "Recent Games List has been Cleared.");
     }
 };
 

@@ -31,7 +31,8 @@ void WhenOpen(std::function<void(Dialog&)> act) {
 class WindowFixture {
 public:
     WindowFixture() : window({settings, clock, sounds, std::filesystem::path(Folder())}) {
-        window.table().SetPaced(false);
+        window.motion().SetPaced(false);
+        window.SetBreath(0);
         window.resize(1100, 830);
         window.show();
         (void)QTest::qWaitForWindowExposed(&window);

@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(help->windowTitle().startsWith("Baker's Game"));
         help->browser()->backward();
         QVERIFY(help->windowTitle().startsWith("Contents"));
-        fixture.window.ShowSelectModeless();
+        fixture.window.ShowSelect();
         fixture.window.select()->rules()->click();
         QVERIFY(help->windowTitle().startsWith("Baker's Game"));
         help->find()->setText("reserve");

@@ -156,7 +156,7 @@ private Q_SLOTS:
     void TheRunningGameIsLive() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.engine().EndGame(0);
+        fixture.engine().EndGame(Outcome::NotWon);
         fixture.Start("Freecell", 2);
         WhenOpen<SessionDialog>([&](SessionDialog& dialog) {
             const auto close = qScopeGuard([&] { dialog.reject(); });
@@ -180,8 +180,10 @@ private Q_SLOTS:
     void TheWonDialogShowsTheWinInBothWindows() {
         WindowFixture fixture;
         fixture.Start("Freecell");
+        fixture.engine().data.GameWon = true;
         fixture.engine().data.CurScore = 77;
-        WhenOpen<FinishDialog>([](FinishDialog& finish) {
+        bool told = false;
+        WhenOpen<FinishDialog>([&](FinishDialog& finish) {
             WhenOpen<GameStatDialog>([](GameStatDialog& dialog) {
                 auto* games = Named<ReportView>(dialog, "Games");
                 QVERIFY(ColumnTexts(*games, 2).contains("1"));
@@ -193,10 +195,16 @@ private Q_SLOTS:
                 dialog.reject();
             });
             Captioned(finish, "High Score")->click();
+            told = true;
             finish.reject();
         });
-        fixture.window.ShowFinish();
-        QVERIFY(!fixture.engine().data.GameRunning);
+        // A window that shows results shows this one as well; the dialog waits until it is closed.
+        WhenOpen<GameStatDialog>([&](GameStatDialog& dialog) {
+            QVERIFY(!fixture.engine().data.GameRunning && !told);
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(1)->trigger();
+        QTRY_VERIFY(told);
     }
 };
 

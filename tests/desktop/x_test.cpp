@@ -117,7 +117,7 @@ private Q_SLOTS:
         NoSounds sounds;
         const std::filesystem::path data = home.path().toStdString() + "/data";
         MainWindow window({settings, clock, sounds, data});
-        window.table().SetPaced(false);
+        window.motion().SetPaced(false);
         window.showMaximized();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         cData& stored = window.engine().data;
@@ -182,7 +182,7 @@ private Q_SLOTS:
         NoSounds sounds;
         const std::filesystem::path data = home.path().toStdString() + "/data";
         MainWindow window({settings, clock, sounds, data});
-        window.table().SetPaced(qEnvironmentVariableIsSet("VARNELLO_PACED"));
+        window.motion().SetPaced(qEnvironmentVariableIsSet("VARNELLO_PACED"));
         window.showMaximized();
         QVERIFY(QTest::qWaitForWindowActive(&window));
 

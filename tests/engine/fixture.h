@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "engine/definitions/catalogue.h"
 #include "engine/flow/engine.h"
@@ -50,22 +51,35 @@ inline void WriteFile(const std::filesystem::path& file, const std::string& byte
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-/// Counts what it is asked to show and lets a test act in a flight and where the
-/// event loop would run.
-class CountingSurface : public TableSurface {
+/// Follows what it is told in a table of its own, and takes note of the flights. It is a screen, on
+/// which a deal takes time, while `busy` is set.
+class FollowingSurface : public TableSurface {
 public:
-    void Repaint() override { ++repaints; }
-    void RepaintFlight() override {
-        ++flightSteps;
+    struct Flight {
+        PicID card;
+        double left, top, toLeft, toTop;
+        int steps;
+        MoveKind kind;
+        bool operator==(const Flight&) const = default;
+    };
+
+    void CardChanged(PicID id, const KesCard& card) override { scene.Card(id) = card; }
+    void CardFlies(PicID id, const KesCard& card, int steps, MoveKind kind) override {
+        const KesCard& from = scene.Card(id);
+        flights.push_back({id, from.Left, from.Top, card.Left, card.Top, steps, kind});
+        scene.Card(id) = card;
         if (onFlight) onFlight();
     }
-    void Yield() override {
-        if (onYield) onYield();
+    void SlotChanged(Cell cell, int pile, const KesEmpty& slot) override {
+        scene.Slot(cell, pile) = slot;
     }
-    int repaints = 0;
-    int flightSteps = 0;
+    void Cleared() override { scene.Clear(); }
+    bool Showing() const override { return busy; }
+
+    Table scene;
+    std::vector<Flight> flights;
     std::function<void()> onFlight;
-    std::function<void()> onYield;
+    bool busy = false;
 };
 
 /// A whole engine on the stand-ins of the scripted table, in a data folder of its own. What moves,
@@ -73,10 +87,7 @@ public:
 struct TestTable {
     TestTable() {
         sounds.on = true;
-        dialogs.finish = [this] {
-            script::PrintFinish(out, engine);
-            engine.LoadFinish();
-        };
+        engine.onWon = [this] { script::PrintFinish(out, engine); };
         engine.onMove = [this](const CardMove& move) { script::PrintMove(out, move); };
         engine.InitMain();
     }
@@ -123,10 +134,10 @@ struct TestTable {
     std::ostringstream out;
     script::MemoryStore store;
     script::ScriptClock clock;
-    CountingSurface surface;
+    FollowingSurface surface;
     script::PrintedSounds sounds{out};
-    script::PrintedDialogs dialogs{out};
-    Engine engine{{store, clock, surface, sounds, dialogs, folder.Path() / "data"}};
+    script::PrintedMessages messages{out};
+    Engine engine{{store, clock, surface, sounds, messages, folder.Path() / "data"}};
 };
 
 class EngineTest : public ::testing::Test, protected TestTable {};

@@ -66,12 +66,77 @@ TEST_F(Flow, CascadeThatWinsPlaysItsSoundsAndTouchesNothing) {
     engine.ToggleAutoplay();
     const std::string heard = Heard();
     const std::size_t finish = heard.find("finish: ");
-    std::string sounds = "sound: Win\n";
+    std::string sounds;
     for (int i = 0; i < 13; ++i) sounds += "sound: AutoPlay\n";
     EXPECT_EQ(heard.substr(heard.find('\n', finish) + 1), sounds);
     EXPECT_EQ(heard.substr(0, finish).find("sound"), std::string::npos);
-    EXPECT_EQ(engine.score.SesTop(), 1);
+    EXPECT_EQ(engine.score.SesTop(), 0) << "booked by the dialog, or by what ends the game";
     EXPECT_EQ(engine.trans().GetTransID(), 13);
+}
+
+TEST_F(Flow, WonGameEndsAsWonWhateverEndsIt) {
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"dialog", [&] { engine.LoadFinish(); }}, {"close", [&] { engine.CloseGame(); }},
+        {"leave", [&] { engine.LeaveGame(); }},   {"restart", [&] { engine.RestartGame(); }},
+        {"new", [&] { engine.NewGame(); }},       {"recent", [&] { Start("Cascade"); }}};
+    int games = 0;
+    for (const auto& [name, end] : ends) {
+        SCOPED_TRACE(name);
+        StartHearts();
+        engine.ToggleAutoplay();
+        ASSERT_EQ(engine.phase(), Phase::Won);
+        engine.data.Set(keys::Autoplay, 0);
+        engine.data.CurMoves = 9;
+        const MenuMarks marks = engine.UpdateMenus();
+        EXPECT_FALSE(marks.mGame1 || marks.mGame6 || marks.mReplay2 || marks.mReplay4);
+        for (const auto command : {&Engine::Undo, &Engine::UndoAll, &Engine::ReplayAll,
+                                   &Engine::ForwardTick, &Engine::BackwardTick}) {
+            (engine.*command)();
+        }
+        EXPECT_EQ(engine.array().TotalGoalCards(), 13);
+        engine.gestures().MouseDown(Top(Cell::Goal, 0), 532, 720);
+        EXPECT_FALSE(engine.gestures().Dragging());
+        end();
+        EXPECT_NE(engine.phase(), Phase::Won);
+        ASSERT_EQ(engine.score.SesTop(), ++games);
+        EXPECT_EQ(engine.score.GetSes(I16(games)).Status, 1);
+        EXPECT_EQ(engine.score.GetSes(I16(games)).Moves, 9) << "as of the last tick";
+        if (engine.phase() == Phase::Playing) {
+            engine.CloseGame();
+            ++games;
+        }
+    }
+}
+
+TEST_F(Flow, DealBecomesAGameWhenItHasBeenShown) {
+    surface.busy = true;
+    Start("See-Saw", 3);
+    EXPECT_EQ(engine.phase(), Phase::Dealing);
+    EXPECT_EQ(engine.array().GetTop(Cell::Stock, 0), -1) << "all of it lies there";
+    for (const auto command :
+         {&Engine::Undo, &Engine::Redo, &Engine::UndoAll, &Engine::RedoAll, &Engine::CloseGame,
+          &Engine::RestartGame, &Engine::ForwardTick, &Engine::BackwardTick, &Engine::ReplayAll,
+          &Engine::LeaveGame, &Engine::ToggleAutoplay, &Engine::ToggleAutoplay}) {
+        (engine.*command)();
+    }
+    engine.TimeTick();
+    engine.gestures().MouseDown(engine.table.VisibleCards().back(), 532, 720);
+    EXPECT_FALSE(engine.gestures().Dragging());
+    clock.Advance(3);
+    engine.Shown();
+    EXPECT_EQ(engine.phase(), Phase::Playing);
+    EXPECT_EQ(engine.ElapsedTime(), 0) << "the clock begins with the game";
+    TestTable undisturbed;
+    undisturbed.Start("See-Saw", 3);
+    EXPECT_EQ(Board(), undisturbed.Board());
+    engine.CloseGame();
+    Start("Zodiac", 9);
+    Start("Stripped Freecell", 4);
+    engine.Shown();
+    undisturbed.Start("Stripped Freecell", 4);
+    EXPECT_EQ(Board(), undisturbed.Board());
+    EXPECT_TRUE(LooksSame(surface.scene, engine.table));
+    EXPECT_EQ(engine.score.SesTop(), 1) << "a deal that wasn't shown leaves no record";
 }
 
 TEST_F(Flow, RewindingThatWinsStartsNoReplay) {
@@ -79,18 +144,25 @@ TEST_F(Flow, RewindingThatWinsStartsNoReplay) {
     engine.data.Set(keys::Autoplay, 0);
     DropOn(Top(Cell::Goal, 0), Cell::Res, 0);
     engine.ReplayAll();  // taking the move back brings all cards up again
-    EXPECT_FALSE(engine.data.GameRunning);
+    EXPECT_EQ(engine.phase(), Phase::Won);
+    EXPECT_FALSE(engine.ForwardOn());
+    StartHearts(1);
+    engine.ReplayAll();
+    EXPECT_TRUE(engine.ForwardOn());
+    for (int i = 0; i < 13; ++i) engine.ForwardTick();
+    EXPECT_EQ(engine.phase(), Phase::Won);
     EXPECT_FALSE(engine.ForwardOn());
 }
 
 TEST_F(Flow, WonDialogShowsTheStoredFigures) {
     StartHearts();
-    FinishFigures figures;
-    dialogs.finish = [&] { figures = engine.LoadFinish(); };
     engine.data.CurTime = 3725;
     engine.data.CurMoves = 40;
     engine.data.CurScore = -5;
     PlayUp(kAce, kKing);
+    Heard();
+    const FinishFigures figures = engine.LoadFinish();
+    EXPECT_EQ(Heard(), "sound: Win\n");
     EXPECT_EQ(figures.Game, "Hearts");
     EXPECT_EQ(figures.Lines,
               (std::array<std::string, 5>{" Game : 7", " Player : Player1", " Time : 1:02:05",

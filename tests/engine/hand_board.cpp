@@ -54,8 +54,10 @@ void HandBoard::Lay(std::string_view piles) {
         table.Card(next_).SetValue(I16(suit), I16(static_cast<int>(kUp.find(word[0]))),
                                    I16(secondPack ? suit + 4 : suit));
         to.Pos = I16(array.GetTop(to.Cell, to.Pile) + 1);
-        array.MoveCard(next_++, to, MoveKind::Deal, 0, 0,
-                       closed ? FaceMode::Closed : FaceMode::Open);
+        array.MoveCard({.PicId = next_++,
+                        .To = to,
+                        .tMod = MoveKind::Deal,
+                        .DFace = closed ? FaceMode::Closed : FaceMode::Open});
     }
     out = {};
 }
@@ -84,12 +86,12 @@ PicID HandBoard::Id(std::string_view card) const {
 }
 
 void HandBoard::Do(const std::string& acts) {
-    std::int16_t jump = 0;
+    int jump = 0;
     const std::map<std::string, std::function<void()>> commands{
-        {"undo", [&] { trans->Undo(jump); }},
-        {"redo", [&] { trans->Redo(jump); }},
-        {"undoall", [&] { trans->UndoAll(jump); }},
-        {"redoall", [&] { trans->RedoAll(jump); }},
+        {"undo", [&] { trans.Undo(jump); }},
+        {"redo", [&] { trans.Redo(jump); }},
+        {"undoall", [&] { trans.UndoAll(jump); }},
+        {"redoall", [&] { trans.RedoAll(jump); }},
         {"autoplay", [&] { varnello::AutoPlay(field); }},
         {"slot", [&] { gestures.StockClick(); }},
         {"row", [&] { DealRow(field); }}};
@@ -104,7 +106,7 @@ void HandBoard::Do(const std::string& acts) {
         Press(card);
         if (word[card.size()] == '>') {
             Place at = BottomOf(word.substr(end + 1));
-            if (at.Cell == Cell::Home) at.Pos = array.GetTop(at.Cell, at.Pile);
+            if (at.Cell == Cell::Home) at = {at.Cell, at.Pile, array.GetTop(at.Cell, at.Pile)};
             Drag(card, array.GetCordX(at), array.GetCordY(at));
         } else if (word[card.size()] == '@') {
             const std::size_t comma = word.find(',');
@@ -147,8 +149,10 @@ void ExpectPlays(const GameRow& row, const std::vector<BoardCase>& cases, bool a
             EXPECT_EQ(card.Left, board.array.GetCordX(card.Loc)) << id;
             EXPECT_EQ(card.Top, board.array.GetCordY(card.Loc)) << id;
         }
+        EXPECT_TRUE(LooksSame(board.surface.scene, board.table));
         board.Do("undoall");
         EXPECT_EQ(board.Text(), before);
+        EXPECT_TRUE(LooksSame(board.surface.scene, board.table));
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,22 +41,22 @@ public:
 
     std::ostringstream out;
     script::MemoryStore store;
-    CountingSurface surface;
+    FollowingSurface surface;
     script::PrintedSounds sounds{out};
     cData data{store, sounds, {}};
     cGames games;
     Generator generator;
     Table table;
     cArray array{games, table, generator, surface, *this};
-    std::shared_ptr<cTrans> trans = std::make_shared<cTrans>(array, table, data);
+    cTrans trans{array, table, data};
     Playfield field{data, games, generator, table, array, trans};
     Gestures gestures{field};
     int wins = 0;
 
 private:
-    bool GameRunning() const override { return data.GameRunning; }
+    bool Playing() const override { return data.GameRunning; }
     void MoveBegins(const CardMove& move) override { script::PrintMove(out, move); }
-    void SaveTrans(const CardMove& move) override { trans->SaveTrans(move); }
+    void SaveTrans(const CardMove& move) override { trans.SaveTrans(move); }
     void AutoPlay() override;
     void CheckWon() override;
 

@@ -10,16 +10,15 @@ protected:
     /// Moves a card to and fro between two reserves.
     void Shuttle(int moves) {
         for (int i = 0; i < moves; ++i) {
-            const auto to = I16(1 - Card("9H").Loc.Pile);
-            array.MoveCard(Id("9H"), {Cell::Res, to, 0}, MoveKind::Play, 0, 0, FaceMode::Open);
+            array.MoveCard({.PicId = Id("9H"), .To = {Cell::Res, 1 - Card("9H").Loc.Pile, 0}});
         }
         out = {};
     }
     /// Which records, from 0 on, go on in the next one.
     std::string Groups() const {
         std::string groups;
-        for (int i = 0; i <= trans->TransTop(); ++i)
-            groups += trans->Record(I16(i)).InGroup ? '1' : '0';
+        for (int i = 0; i <= trans.TransTop(); ++i)
+            groups += trans.Record(I16(i)).InGroup ? '1' : '0';
         return groups;
     }
 };
@@ -27,52 +26,52 @@ protected:
 TEST_F(Log, GrowsBeyondTheCounterWithoutLosingARecord) {
     Shuttle(32767 + 3);
     for (const int i : {1, 99, 100, 101, 200, 32767}) {
-        EXPECT_EQ(trans->Record(I16(i)).From, (Place{Cell::Res, I16(1 - i % 2), 0})) << i;
+        EXPECT_EQ(trans.Record(I16(i)).From, (Place{Cell::Res, 1 - i % 2, 0})) << i;
     }
-    EXPECT_EQ(trans->GetTransID(), 32767);
-    EXPECT_EQ(trans->TransTop(), 32767);
+    EXPECT_EQ(trans.GetTransID(), 32767);
+    EXPECT_EQ(trans.TransTop(), 32767);
     Do("undo undo undo undo");
-    EXPECT_EQ(trans->GetTransID(), 32766);
+    EXPECT_EQ(trans.GetTransID(), 32766);
     Do("undoall");
-    EXPECT_EQ(trans->GetTransID(), 0);
+    EXPECT_EQ(trans.GetTransID(), 0);
     EXPECT_EQ(Text(), "t3 9C, r0 9H");
     Do("redoall");
-    EXPECT_FALSE(trans->RedoPossible());
+    EXPECT_FALSE(trans.RedoPossible());
     EXPECT_EQ(Text(), "t3 9C, r0 9H");
 }
 
 TEST_F(Log, BracketJoinsItsRecords) {
-    trans->StartMulti();
-    trans->EndMulti();  // an empty one joins nothing
+    trans.StartMulti();
+    trans.EndMulti();  // an empty one joins nothing
     Shuttle(1);
-    trans->StartMulti();
+    trans.StartMulti();
     Shuttle(3);
-    trans->EndMulti();
+    trans.EndMulti();
     Shuttle(1);
     EXPECT_EQ(Groups(), "001100");
     Do("undo undo");
-    EXPECT_EQ(trans->GetTransID(), 1);
+    EXPECT_EQ(trans.GetTransID(), 1);
 }
 
 TEST_F(Log, InnerEndEndsTheBracket) {
-    trans->StartMulti();
+    trans.StartMulti();
     Shuttle(1);
-    trans->StartMulti();
+    trans.StartMulti();
     Shuttle(2);
-    trans->EndMulti();
+    trans.EndMulti();
     Shuttle(2);
-    trans->EndMulti();
+    trans.EndMulti();
     EXPECT_EQ(Groups(), "011000");
 }
 
 TEST_F(Log, CardBelowClosesBeforeTheMovedCardFlies) {
     Lay("t0 -2C QH");
     Do("QH>r2");
-    int closedSteps = 0;
-    surface.onFlight = [&] { closedSteps += Card("2C").FaceMode == FaceMode::Closed; };
-    std::int16_t speed = 3;
-    trans->Undo(speed);
-    EXPECT_EQ(closedSteps, 3);
+    int closed = 0;
+    surface.onFlight = [&] { closed += surface.scene.Card(Id("2C")).FaceMode == FaceMode::Closed; };
+    int speed = 3;
+    trans.Undo(speed);
+    EXPECT_EQ(closed, 1);
     EXPECT_EQ(Card("QH").Top, 3060);
     Do("redo");
     EXPECT_EQ(Card("2C").FaceMode, FaceMode::Open);

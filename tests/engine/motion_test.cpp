@@ -8,24 +8,20 @@ constexpr MoveKind kKinds[] = {MoveKind::Play, MoveKind::FromStock, MoveKind::To
                                MoveKind::UndoRedo, MoveKind::Deal};
 
 void Move(HandBoard& board, std::string_view card, Place to, MoveKind kind = MoveKind::Play,
-          std::int16_t speed = 0, std::int16_t carried = 0, FaceMode face = FaceMode::Open) {
-    board.array.MoveCard(board.Id(card), to, kind, speed, carried, face);
+          int speed = 0, int carried = 0) {
+    board.array.MoveCard({board.Id(card), to, kind, speed, carried, FaceMode::Open});
 }
 
-TEST(Motion, FliesInEqualStepsFromWhereTheCardStands) {
+TEST(Motion, FirstCardFliesFromWhereItStandsAndTheOthersJump) {
     HandBoard board(Freecells(), "t0 QH JS TH");
-    std::vector<std::pair<double, double>> seen;
-    board.surface.onFlight = [&] {
-        seen.emplace_back(board.Card("QH").Left, board.Card("QH").Top);
-    };
-    board.surface.repaints = 0;
-    board.Card("QH").MoveTo(700, 1600);
+    board.Press("QH");
+    board.Drag("QH", 700, 1600);
     Move(board, "QH", {Cell::Res, 0, 0}, MoveKind::Play, 4, 2);
-    using Seen = std::vector<std::pair<double, double>>;
-    EXPECT_EQ(seen, (Seen{{775, 1200}, {850, 800}, {925, 400}, {1000, 0}}));
-    EXPECT_EQ(board.surface.repaints, 3) << "one for each card";
+    using Flights = std::vector<FollowingSurface::Flight>;
+    EXPECT_EQ(board.surface.flights, (Flights{{0, 700, 1600, 1000, 0, 4, MoveKind::Play}}));
     Move(board, "JS", {Cell::Res, 1, 0}, MoveKind::Play, -1);
-    EXPECT_EQ(board.surface.flightSteps, 4);
+    EXPECT_EQ(board.surface.flights.size(), 1U);
+    EXPECT_TRUE(LooksSame(board.surface.scene, board.table));
 }
 
 TEST(Motion, OpensTheClosedTableauCardBelow) {
@@ -34,8 +30,8 @@ TEST(Motion, OpensTheClosedTableauCardBelow) {
     Move(board, "JH", {Cell::Res, 1, 0});
     Move(board, "5C", {Cell::Res, 2, 0});
     EXPECT_EQ(board.Text(), "t0 4C, w0 -6C, r0 QH, r1 JH, r2 5C");
-    EXPECT_EQ(board.trans->Record(1).MoveKind, MoveKind::Uncover);
-    EXPECT_EQ(board.trans->Record(3).MoveKind, MoveKind::Play);
+    EXPECT_EQ(board.trans.Record(1).MoveKind, MoveKind::Uncover);
+    EXPECT_EQ(board.trans.Record(3).MoveKind, MoveKind::Play);
 }
 
 TEST(Motion, FullFoundationRefusesInSilence) {
@@ -44,7 +40,7 @@ TEST(Motion, FullFoundationRefusesInSilence) {
     Move(board, "2C", {Cell::Goal, 0, 13});
     EXPECT_EQ(board.Text(), piles);
     EXPECT_EQ(board.Heard(), "");
-    EXPECT_FALSE(board.trans->UndoPossible());
+    EXPECT_FALSE(board.trans.UndoPossible());
     GameRow runs = Freecells();
     runs.Ext.Tag = Tag::Spider;
     SelectRow(board.games, runs);
@@ -67,8 +63,7 @@ TEST(Motion, TestsForTheWinAfterEveryKindWhileAGameRuns) {
         HandBoard board(row, "t0 9H");
         Move(board, "9H", {Cell::Goal, 0, 0}, kind);
         EXPECT_EQ(board.wins, 1) << static_cast<int>(kind);
-        EXPECT_EQ(board.trans->UndoPossible(),
-                  kind != MoveKind::Deal && kind != MoveKind::UndoRedo);
+        EXPECT_EQ(board.trans.UndoPossible(), kind != MoveKind::Deal && kind != MoveKind::UndoRedo);
         board.data.GameRunning = false;
         Move(board, "9H", {Cell::Goal, 1, 0}, kind);
         EXPECT_EQ(board.wins, 1) << static_cast<int>(kind);

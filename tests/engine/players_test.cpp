@@ -42,12 +42,6 @@ TEST_F(Choosing, TakesNumbersStrictlyInsideTheRange) {
     EXPECT_EQ(engine.RangeText(), "0 and 999");
 }
 
-TEST_F(Choosing, AcceptsBeforeItDeals) {
-    EXPECT_FALSE(engine.ChooseNumber("Freecell", "abc", [] { FAIL(); }));
-    EXPECT_TRUE(engine.ChooseNumber("Freecell", "7", [&] { EXPECT_FALSE(data.GameRunning); }));
-    EXPECT_TRUE(data.CurGNo.IsText());
-}
-
 TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {
     engine.AddFavorite();  // no game, so nothing
     EXPECT_FALSE(std::filesystem::exists(File("fav.dat")));
@@ -74,10 +68,7 @@ TEST_F(Choosing, RecentGamesComeNewestFirst) {
     EXPECT_EQ(data.RecentCount(), 4);
     for (const char* game : {"D", "a", "A"}) data.SetRecent(game);
     EXPECT_EQ(recent(), "A|a|D|C|A|");
-    dialogs.answer = false;
-    EXPECT_FALSE(engine.ClearRecentGames());
-    dialogs.answer = true;
-    EXPECT_TRUE(engine.ClearRecentGames());
+    engine.ClearRecentGames();
     EXPECT_EQ(recent(), "|||||");
 }
 
@@ -147,13 +138,6 @@ TEST_F(Players, LeaveNothingBehindButTheirOrder) {
     for (const char* name : {"B", "C", "D"}) engine.EnterPlayer("", name);
     for (const char* file : {"B.sre", "C.sre", "D.sre"}) WriteFile(File(file), "x");
     EXPECT_FALSE(engine.DeletePlayer("Player1")) << "the current one";
-    dialogs.answer = false;
-    EXPECT_FALSE(engine.DeletePlayer("B"));
-    EXPECT_EQ(Heard(), "question: Are you sure you want to delete this player\n");
-    EXPECT_TRUE(std::filesystem::exists(File("B.sre")));
-    engine.ClearStat();
-    EXPECT_TRUE(std::filesystem::exists(File("D.sre")));
-    dialogs.answer = true;
     EXPECT_TRUE(engine.DeletePlayer("B"));
     EXPECT_FALSE(std::filesystem::exists(File("B.sre")));
     EXPECT_EQ(FirstPlayers(), "Player1|C|D||");

@@ -218,8 +218,7 @@ TEST_F(Reports, ExportKeepsItsColumns) {
     engine.data.AddPlayer("A name of 25 letters, yes");
     clock.Set({.month = 11, .day = 8, .hour = 13});
     Write({Game(100, 300, 700), Game(-20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
-    dialogs.chosenFile = ChosenFile{folder.Path() / "report", "report"};
-    engine.ExportStat();
+    engine.ExportStat({folder.Path() / "report", "report"});
     EXPECT_EQ(Heard(), "message: Statistics Successfully Exported to report\n");
     EXPECT_EQ(engine.score.ScoreTop(), 0);
     const std::string report = ReadFile(folder.Path() / "report");
@@ -244,9 +243,7 @@ TEST_F(Reports, ExportKeepsItsColumns) {
 }
 
 TEST_F(Reports, ExportIsSilentWhenItCanNotBe) {
-    engine.ExportStat();
-    dialogs.chosenFile = ChosenFile{folder.Path() / "no folder" / "report", "report"};
-    engine.ExportStat();
+    engine.ExportStat({folder.Path() / "no folder" / "report", "report"});
     EXPECT_EQ(Heard(), "");
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "no folder"));
 }

@@ -122,17 +122,17 @@ TEST_F(ScoreFiles, ListOfThisRunHoldsEveryEndedGame) {
     engine.data.CurScore = -20;
     engine.data.CurMoves = 7;
     engine.data.CurTime = 100;
-    engine.EndGame(0);
+    engine.EndGame(Outcome::NotWon);
     engine.data.SetPlayer(2, "Ada", true);
     engine.StartGame("Zodiac", GameNumber::Text("6"));
-    engine.EndGame(1);
+    engine.EndGame(Outcome::Won);
     ASSERT_EQ(engine.score.SesTop(), 2);
     EXPECT_EQ(engine.score.GetSes(1),
               (ScoreRecord{"", "Freecell", GameNumber::Number(5), 100, 7, -20, 0, "Player1"}));
     EXPECT_EQ(engine.score.GetSes(2),
               (ScoreRecord{"", "Zodiac", GameNumber::Text("6"), 100, 7, -20, 1, "Ada"}));
     EXPECT_EQ(engine.score.SesSummary(), (ScoreSummary{2, 1, 1, -40, 14, 200}));
-    for (int i = 0; i < 33000; ++i) engine.score.AddSesGame(0);
+    for (int i = 0; i < 33000; ++i) engine.score.AddSesGame(Outcome::NotWon);
     EXPECT_EQ(engine.score.SesTop(), 32767);
 }
 

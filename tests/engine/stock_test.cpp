@@ -66,7 +66,7 @@ TEST(Stock, WholeWasteGoesBackUnlogged) {
     HandBoard board(WithStock(StockMove::Waste), "s0 -2C, w0 7H 8H");
     board.array.MoveWasteStock();
     EXPECT_EQ(board.Text(), "s0 -2C -8H -7H");
-    EXPECT_FALSE(board.trans->UndoPossible());
+    EXPECT_FALSE(board.trans.UndoPossible());
 }
 
 }  // namespace

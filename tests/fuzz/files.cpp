@@ -132,9 +132,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     test::CheckFavorites(engine.favorites, text);
 
     engine.data.CurGName("Penguin");
-    test::Require(
-        engine.score.AddScore(1) && engine.favorites.AddFav("Penguin", GameNumber::Number(7)),
-        "not appended");
+    test::Require(engine.score.AddScore(Outcome::Won) &&
+                      engine.favorites.AddFav("Penguin", GameNumber::Number(7)),
+                  "not appended");
     test::CheckAppended(scores, text);
     test::CheckAppended(engine.favorites.File(), text);
     test::CheckScores(engine.score, test::BytesOf(scores));

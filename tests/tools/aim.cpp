@@ -2,8 +2,6 @@
 
 #include <cstdlib>
 
-#include "engine/common/rounding.h"
-
 namespace varnello::findwin {
 namespace {
 
@@ -22,10 +20,9 @@ bool Touches(const Engine& engine, const Aim& aim, const Place& place) {
 /// The tableau is asked before the reserves, these before the foundations, each from pile 0 up.
 bool TouchesEarlierPlace(const Engine& engine, const Aim& aim, const Place& target) {
     for (const Cell cell : {Cell::Home, Cell::Res, Cell::Goal}) {
-        for (std::int16_t pile = 0; pile < engine.games.Piles(cell); ++pile) {
+        for (int pile = 0; pile < engine.games.Piles(cell); ++pile) {
             if (cell == target.Cell && pile == target.Pile) return false;
-            const std::int16_t pos =
-                cell == Cell::Home ? engine.array().GetTop(cell, pile) : std::int16_t{0};
+            const int pos = cell == Cell::Home ? engine.array().GetTop(cell, pile) : 0;
             if (Touches(engine, aim, {cell, pile, pos})) return true;
         }
     }
@@ -39,8 +36,7 @@ Aim AimAt(const Engine& engine, const Place& target) {
     if (!TouchesEarlierPlace(engine, straight, target)) return straight;
     for (int up = -kStepsUp; up <= kStepsUp; ++up) {
         for (int aside = -kStepsAside; aside <= kStepsAside; ++aside) {
-            const Aim aim{Saturate16(straight.left + aside * kStep),
-                          Saturate16(straight.top - up * kStep)};
+            const Aim aim{straight.left + aside * kStep, straight.top - up * kStep};
             if (!TouchesEarlierPlace(engine, aim, target)) return aim;
         }
     }

@@ -8,8 +8,8 @@ namespace varnello::findwin {
 
 /// Where a dropped card's left top corner comes to lie, in twips on the table.
 struct Aim {
-    std::int16_t left;
-    std::int16_t top;
+    int left;
+    int top;
 };
 
 /// An aim that puts a dropped card's centre on the target and, where that is possible, on nothing

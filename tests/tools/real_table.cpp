@@ -1,7 +1,6 @@
 #include "real_table.h"
 
 #include "aim.h"
-#include "engine/common/rounding.h"
 #include "script/scripted_table.h"
 
 namespace varnello::findwin {
@@ -15,11 +14,8 @@ constexpr double kGripY = 720;
 
 RealTable::RealTable(const std::filesystem::path& folder, const std::string& game,
                      const GameNumber& number, bool autoplay)
-    : engine_({store_, clock_, surface_, sounds_, dialogs_, folder}), autoplay_(autoplay) {
-    dialogs_.finish = [this] {
-        won_ = true;
-        engine_.LoadFinish();
-    };
+    : engine_({store_, clock_, surface_, sounds_, messages_, folder}), autoplay_(autoplay) {
+    engine_.onWon = [this] { won_ = true; };
     engine_.InitMain();
     engine_.data.Set(keys::Autoplay, autoplay ? 1 : 0);
     engine_.StartGame(game, number);
@@ -42,12 +38,12 @@ State RealTable::ReadState() const {
 }
 
 Place RealTable::PlaceOf(const PileMap& map, int pile) const {
-    if (map.IsRes(pile)) return {Cell::Res, Saturate16(pile - map.Res(0)), 0};
-    if (map.IsGoal(pile)) return {Cell::Goal, Saturate16(pile - map.Goal(0)), 0};
+    if (map.IsRes(pile)) return {Cell::Res, pile - map.Res(0), 0};
+    if (map.IsGoal(pile)) return {Cell::Goal, pile - map.Goal(0), 0};
     const Cell cell = map.IsHome(pile)      ? Cell::Home
                       : pile == map.Waste() ? Cell::Waste
                                             : Cell::Stock;
-    const std::int16_t index = map.IsHome(pile) ? Saturate16(pile) : std::int16_t{0};
+    const int index = map.IsHome(pile) ? pile : 0;
     return {cell, index, engine_.array().GetTop(cell, index)};
 }
 

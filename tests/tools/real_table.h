@@ -41,7 +41,7 @@ private:
     script::NoSurface surface_;
     std::ostringstream output_;
     script::PrintedSounds sounds_{output_};
-    script::PrintedDialogs dialogs_{output_};
+    script::PrintedMessages messages_{output_};
     Engine engine_;
     bool autoplay_;
     bool won_ = false;

@@ -73,9 +73,8 @@ void PlayFavoriteDialog::UpdateLVFav() {
 void PlayFavoriteDialog::Play() {
     const QListWidgetItem* item = lvFav_->currentItem();
     if (!item) return;
-    hide();
-    engine_.StartGame(imcGames_->currentText().toStdString(),
-                      GameNumber::Text(item->text().toStdString()));
+    choice_ = GameChoice{.Game = imcGames_->currentText().toStdString(),
+                         .Number = GameNumber::Text(item->text().toStdString())};
     accept();
 }
 

@@ -6,16 +6,20 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "desktop/choosers/game_choice.h"
 #include "engine/flow/engine.h"
 
 namespace varnello {
 
-/// `frmPlayFav`: starts a favorite deal.
+/// `frmPlayFav`: chooses a favorite deal.
 class PlayFavoriteDialog : public QDialog {
     Q_OBJECT
 
 public:
     PlayFavoriteDialog(Engine& engine, QWidget* parent);
+
+    /// What was chosen; nothing when the dialog was cancelled.
+    const std::optional<GameChoice>& Choice() const { return choice_; }
 
     QListWidget* numbers() const { return lvFav_; }
     QPushButton* play() const { return cmdPlay_; }
@@ -28,6 +32,7 @@ private:
     QComboBox* imcGames_;
     QListWidget* lvFav_;
     QPushButton* cmdPlay_;
+    std::optional<GameChoice> choice_;
 };
 
 /// `frmOrgFav`: shows all favorites by game, and can clear them.

@@ -52,12 +52,13 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
 }
 
 void NumberDialog::Select() {
-    const bool started = engine_.ChooseNumber(
-        games_->currentText().toStdString(), number_->text().toStdString(), [this] {
-            hide();
-            engine_.data.CurPlayer(players_->currentText().toStdString());
-        });
-    if (started) return accept();
+    const std::string number = number_->text().toStdString();
+    if (engine_.AcceptNumber(number)) {
+        choice_ = GameChoice{.Game = games_->currentText().toStdString(),
+                             .Number = GameNumber::Text(number),
+                             .Player = players_->currentText().toStdString()};
+        return accept();
+    }
     number_->setText(QStringLiteral("0"));
     number_->setFocus();
 }

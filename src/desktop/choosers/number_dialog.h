@@ -4,16 +4,20 @@
 #include <QDialog>
 #include <QLineEdit>
 
+#include "desktop/choosers/game_choice.h"
 #include "engine/flow/engine.h"
 
 namespace varnello {
 
-/// `frmChoose`: starts a game by its name and number.
+/// `frmChoose`: chooses a game by its name and number.
 class NumberDialog : public QDialog {
     Q_OBJECT
 
 public:
     NumberDialog(Engine& engine, QWidget* parent);
+
+    /// What was chosen; nothing when the dialog was cancelled.
+    const std::optional<GameChoice>& Choice() const { return choice_; }
 
     QLineEdit* number() const { return number_; }
 
@@ -24,6 +28,7 @@ private:
     QComboBox* games_;
     QComboBox* players_;
     QLineEdit* number_;
+    std::optional<GameChoice> choice_;
 };
 
 }  // namespace varnello

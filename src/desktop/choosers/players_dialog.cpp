@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 
 namespace varnello {
@@ -90,6 +91,7 @@ void PlayersDialog::Edit() {
 }
 
 void PlayersDialog::Delete() {
+    if (!AskYesNo(this, kDeletePlayerQuestion, QMessageBox::Critical)) return;
     if (engine_.DeletePlayer(SelectedName())) RefreshList();
 }
 

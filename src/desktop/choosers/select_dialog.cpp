@@ -105,10 +105,10 @@ void SelectDialog::ShowGame() {
 void SelectDialog::Play() {
     const QString game = SelectedGame();
     if (game.isEmpty()) return;
-    hide();
-    engine_.data.CurPlayer(players_->currentText().toStdString());
-    engine_.StartGame(game.toStdString(), engine_.RandomGNo());
+    const GameChoice choice{.Game = game.toStdString(),
+                            .Player = players_->currentText().toStdString()};
     accept();
+    Q_EMIT Chosen(choice);
 }
 
 }  // namespace varnello

@@ -6,12 +6,13 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "desktop/choosers/game_choice.h"
 #include "engine/flow/engine.h"
 
 namespace varnello {
 
 /// `frmSelect`: a game is chosen by name, with a preview of its table, and a player. It opens on
-/// the last game played and the current player.
+/// the last game played and the current player, and deletes itself when it closes.
 class SelectDialog : public QDialog {
     Q_OBJECT
 
@@ -26,6 +27,8 @@ public:
 Q_SIGNALS:
     /// The rules of this game are to be shown; the dialog stays open.
     void RulesAsked(const QString& game);
+    /// A game was chosen; the dialog closes.
+    void Chosen(const GameChoice& choice);
 
 private:
     void FillTree();

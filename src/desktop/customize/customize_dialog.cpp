@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/colours.h"
+#include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 
 namespace varnello {
@@ -94,8 +95,9 @@ void CustomizeDialog::ChooseColor() {
 }
 
 void CustomizeDialog::ClearRecent() {
-    if (!engine_.ClearRecentGames()) return;
+    if (!AskYesNo(this, kClearRecentQuestion)) return;
     cmdClearRecent_->setEnabled(false);
+    engine_.ClearRecentGames();
 }
 
 void CustomizeDialog::Ok() {
@@ -164,10 +166,14 @@ QWidget* CustomizeDialog::MakeStatistics() {
     auto* row = new QHBoxLayout(frame);
     auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
     exportStat->setAutoDefault(false);
-    connect(exportStat, &QPushButton::clicked, this, [this] { engine_.ExportStat(); });
+    connect(exportStat, &QPushButton::clicked, this, [this] {
+        if (const auto file = AskForReportFile(this)) engine_.ExportStat(*file);
+    });
     auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
     clearStat->setAutoDefault(false);
-    connect(clearStat, &QPushButton::clicked, this, [this] { engine_.ClearStat(); });
+    connect(clearStat, &QPushButton::clicked, this, [this] {
+        if (AskYesNo(this, kClearStatQuestion)) engine_.ClearStat();
+    });
     row->addWidget(exportStat);
     row->addWidget(clearStat);
     return frame;

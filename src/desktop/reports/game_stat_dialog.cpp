@@ -8,6 +8,7 @@
 
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
+#include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 
 namespace varnello {
@@ -149,7 +150,9 @@ QWidget* GameStatDialog::MakeButtons() {
     cmdExport->setAutoDefault(false);
     cmdClose->setDefault(true);
     // The figures stay as they are until the window opens again.
-    connect(cmdClear, &QPushButton::clicked, this, [this] { engine_.ClearStat(); });
+    connect(cmdClear, &QPushButton::clicked, this, [this] {
+        if (AskYesNo(this, kClearStatQuestion)) engine_.ClearStat();
+    });
     connect(cmdExport, &QPushButton::clicked, this, &GameStatDialog::Export);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
@@ -203,7 +206,9 @@ void GameStatDialog::ShowPlayer() {
 }
 
 void GameStatDialog::Export() {
-    engine_.ExportStat();
+    const auto file = AskForReportFile(this);
+    if (!file) return;
+    engine_.ExportStat(*file);
     engine_.score.OpenAllScore();  // the export has closed the list
     Fill();
 }

@@ -20,8 +20,8 @@ MainMenu::MainMenu(QMenuBar& bar, Engine& engine, Shell& shell)
 }
 
 template <std::size_t N, typename Action>
-void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
-                   const QKeySequence& key, Action&& action) {
+QAction* MainMenu::AddStart(QMenu* menu, std::array<QAction*, N>& items, int index,
+                            const QString& caption, const QKeySequence& key, Action&& action) {
     QAction* item = menu->addAction(caption);
     item->setShortcut(key);
     QObject::connect(item, &QAction::triggered, item, [this, action] {
@@ -29,16 +29,26 @@ void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const
         shell_.Refresh();
     });
     items.at(static_cast<std::size_t>(index)) = item;
+    return item;
+}
+
+template <std::size_t N, typename Action>
+void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
+                   const QKeySequence& key, Action&& action) {
+    AddStart(menu, items, index, caption, key, [this, action] {
+        shell_.Settle();
+        action();
+    });
 }
 
 void MainMenu::BuildFile() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&File"));
-    Add(menu, file_, 1, QStringLiteral("&New Game"), Qt::Key_F2, [this] { engine_.NewGame(); });
+    AddStart(menu, file_, 1, QStringLiteral("&New Game"), Qt::Key_F2, [this] { shell_.NewGame(); });
     Add(menu, file_, 2, QStringLiteral("&Select Game"), Qt::Key_F3,
         [this] { shell_.ShowSelect(); });
     menu->addSeparator();
-    Add(menu, file_, 4, QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
-        [this] { engine_.RestartGame(); });
+    AddStart(menu, file_, 4, QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
+             [this] { shell_.RestartGame(); });
     Add(menu, file_, 5, QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
         [this] { engine_.CloseGame(); });
     menu->addSeparator();
@@ -48,8 +58,7 @@ void MainMenu::BuildFile() {
     QMenu* recent = menu->addMenu(QStringLiteral("Recent Games"));
     file_[9] = recent->menuAction();
     for (int i = 1; i <= kMaxRecent; ++i) {
-        Add(recent, recent_, i, {}, {},
-            [this, i] { engine_.RecentGame(static_cast<std::int16_t>(i)); });
+        AddStart(recent, recent_, i, {}, {}, [this, i] { shell_.RecentGame(i); });
     }
     menu->addSeparator();
     // Ends the process at once: a running game leaves no record.

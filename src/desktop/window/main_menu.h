@@ -9,10 +9,18 @@
 
 namespace varnello {
 
-/// The windows that the menus open.
+/// What the menus ask of the window.
 class Shell {
 public:
     virtual ~Shell() = default;
+    // These begin a game. Nothing else does.
+    virtual void NewGame() = 0;
+    virtual void RestartGame() = 0;
+    /// `index` from 1, the newest.
+    virtual void RecentGame(int index) = 0;
+
+    /// Shows the rest of what is in motion at once, before a command acts on the table.
+    virtual void Settle() = 0;
     virtual void ShowSelect() = 0;
     virtual void ShowChoose() = 0;
     virtual void ShowOrganizeFavorites() = 0;
@@ -29,7 +37,7 @@ public:
     virtual void ShowContents() = 0;
     virtual void ShowAbout() = 0;
     virtual void LayoutMain() = 0;
-    /// The screen follows the engine: shows what a command has changed.
+    /// The window follows the engine after a command.
     virtual void Refresh() = 0;
 };
 
@@ -67,6 +75,10 @@ private:
     template <std::size_t N, typename Action>
     void Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
              const QKeySequence& key, Action&& action);
+    /// The same for an item that begins a game: it takes the place of a deal that is in motion.
+    template <std::size_t N, typename Action>
+    QAction* AddStart(QMenu* menu, std::array<QAction*, N>& items, int index,
+                      const QString& caption, const QKeySequence& key, Action&& action);
 
     QMenuBar& bar_;
     Engine& engine_;

@@ -2,11 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileDialog>
-#include <QMessageBox>
+#include <QKeyEvent>
 #include <QScreen>
-#include <QStandardPaths>
 
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
@@ -14,6 +11,7 @@
 #include "desktop/customize/customize_dialog.h"
 #include "desktop/help/about_dialog.h"
 #include "desktop/help/pages.h"
+#include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/reports/game_stat_dialog.h"
@@ -27,24 +25,26 @@ namespace {
 
 constexpr int kToolbarHeight = 25;        // pixels of the strip along the top
 constexpr QSize kRestoredSize(673, 437);  // client area of the restored window
-constexpr QSize kFileDialogSize(760, 500);
-constexpr int kMenuPoll = 100;  // milliseconds
+constexpr int kMenuPoll = 100;            // milliseconds
 constexpr int kCounterPoll = 500;
 constexpr int kReplayStep = 500;
+constexpr int kTryAgain = 50;
 
 }  // namespace
 
-MainWindow::MainWindow(const System& system) : table_(new TableView) {
-    engine_ = std::make_unique<Engine>(Desktop{system.settings, system.clock, *table_,
-                                               system.sounds, *this, system.dataFolder, dates_});
-    table_->SetEngine(engine_.get());
+MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
+    engine_ = std::make_unique<Engine>(
+        Desktop{system.settings, system.clock, motion_, motion_, *this, system.dataFolder, dates_});
+    motion_.SetCardSpeed([this] { return engine_->data.Get(keys::CardSpeed); });
+    motion_.SetFrameRate(screen()->refreshRate());
+    connect(&motion_, &Motion::Shown, this, &MainWindow::OnShown);
 
     auto* client = new QWidget;
     client->installEventFilter(this);
     setCentralWidget(client);
     menu_ = std::make_unique<MainMenu>(*menuBar(), *engine_, static_cast<Shell&>(*this));
     toolbar_ = new Toolbar(*menu_, client);
-    table_->setParent(client);
+    table_ = new TableView(motion_, *engine_, client);
 
     engine_->InitMain();
     menu_->UpdateMenus();
@@ -53,29 +53,25 @@ MainWindow::MainWindow(const System& system) : table_(new TableView) {
     resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
     move(screen()->availableGeometry().center() - rect().center());
     StartTimers();
+    QApplication::instance()->installEventFilter(this);
 }
 
 MainWindow::~MainWindow() {
-    // The view goes with the window's children, after the engine.
+    QApplication::instance()->removeEventFilter(this);
     centralWidget()->removeEventFilter(this);
+    delete table_;  // before what it shows
 }
 
 void MainWindow::StartTimers() {
     tmrForward_.setInterval(kReplayStep);
     tmrBackward_.setInterval(kReplayStep);
     connect(&tmrMain_, &QTimer::timeout, this, &MainWindow::OnMainTimer);
-    connect(&tmrTime_, &QTimer::timeout, this, [this] {
-        menu_->ShowCounters(engine_->TimeTick());
-        table_->Sync();
-    });
-    connect(&tmrForward_, &QTimer::timeout, this, [this] {
-        engine_->ForwardTick();
-        Refresh();
-    });
-    connect(&tmrBackward_, &QTimer::timeout, this, [this] {
-        engine_->BackwardTick();
-        Refresh();
-    });
+    connect(&tmrTime_, &QTimer::timeout, this,
+            [this] { menu_->ShowCounters(engine_->TimeTick()); });
+    connect(&tmrForward_, &QTimer::timeout, this, [this] { ReplayTick(&Engine::ForwardTick); });
+    connect(&tmrBackward_, &QTimer::timeout, this, [this] { ReplayTick(&Engine::BackwardTick); });
+    breath_.setSingleShot(true);
+    connect(&breath_, &QTimer::timeout, this, &MainWindow::ShowFinish);
     tmrMain_.start(kMenuPoll);
     tmrTime_.start(kCounterPoll);
 }
@@ -84,7 +80,64 @@ void MainWindow::OnMainTimer() {
     menu_->UpdateMenus();
     toolbar_->UpdateToolbar();
     setWindowTitle(ToQt(engine_->Caption()));
-    OnReplayTimers();
+    Refresh();
+}
+
+void MainWindow::ReplayTick(void (Engine::*tick)()) {
+    if (motion_.Showing()) {
+        waitingTick_ = tick;
+        return;
+    }
+    (engine_.get()->*tick)();
+    Refresh();
+}
+
+void MainWindow::OnShown() {
+    engine_->Shown();
+    menu_->UpdateMenus();
+    toolbar_->UpdateToolbar();
+    if (const auto tick = std::exchange(waitingTick_, nullptr)) ReplayTick(tick);
+    AwaitFinish();
+}
+
+void MainWindow::AwaitFinish() {
+    if (engine_->phase() == Phase::Won && !motion_.Showing() && !breath_.isActive()) {
+        breath_.start(breathTime_);
+    }
+}
+
+void MainWindow::Settle() {
+    motion_.Finish();
+    if (breath_.isActive()) breath_.start(0);
+}
+
+bool MainWindow::FilterInput(QObject* watched, QEvent* event) {
+    const bool dealing = engine_->phase() == Phase::Dealing;
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress: {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            const int code = key->key();
+            if (code == Qt::Key_Control || code == Qt::Key_Shift || code == Qt::Key_Alt ||
+                code == Qt::Key_Meta || code == Qt::Key_AltGr) {
+                return false;
+            }
+            if (key->isAutoRepeat() && motion_.Showing()) {
+                event->accept();  // so that it isn't taken for a shortcut either
+                return true;
+            }
+            // A command decides for itself what becomes of a deal.
+            if (!dealing || event->type() == QEvent::KeyPress) Settle();
+            return false;
+        }
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+            if (!watched->isWidgetType() || (dealing && watched != table_)) return false;
+            Settle();
+            return dealing;
+        default: return false;
+    }
 }
 
 void MainWindow::OnReplayTimers() {
@@ -101,8 +154,9 @@ void MainWindow::OnReplayTimers() {
 }
 
 void MainWindow::Refresh() {
-    table_->Sync();
+    Q_ASSERT(motion_.Showing() || LooksSame(motion_.Scene(), engine_->table));
     OnReplayTimers();
+    AwaitFinish();
 }
 
 void MainWindow::LayoutMain() {
@@ -116,62 +170,104 @@ void MainWindow::LayoutMain() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centralWidget() && event->type() == QEvent::Resize) LayoutMain();
+    if ((motion_.Showing() || breath_.isActive()) && FilterInput(watched, event)) return true;
     return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (engine_->Dealing()) {
-        // First the deal has to come back; it leaves no game behind.
-        engine_->AbandonDeal();
-        event->ignore();
-        QTimer::singleShot(0, this, &QWidget::close);
-        return;
-    }
-    if (engine_->data.GameRunning) engine_->EndGame(0);
+    engine_->LeaveGame();
+    ShowMessages();  // of a result that couldn't be written
     event->accept();
     Q_EMIT Closed();
 }
 
-SelectDialog* MainWindow::MakeSelect() {
-    auto* dialog = new SelectDialog(*engine_, this);
-    connect(dialog, &SelectDialog::RulesAsked, this,
-            [this](const QString& game) { ShowRules(game.toStdString()); });
-    return dialog;
+void MainWindow::BeforeStart() {
+    breath_.stop();
+    finish_.reset();
+    waitingTick_ = nullptr;
+    if (select_) select_->close();
 }
 
-void MainWindow::ShowSelectModeless() {
-    if (!select_) select_ = MakeSelect();
+void MainWindow::NewGame() {
+    BeforeStart();
+    engine_->NewGame();
+}
+
+void MainWindow::RestartGame() {
+    if (!engine_->UpdateMenus().mFile4) return;
+    BeforeStart();
+    engine_->RestartGame();
+}
+
+void MainWindow::RecentGame(int index) {
+    const std::string game = engine_->data.GetRecent(Narrow16(index));
+    if (engine_->data.GetGameID(game) != 0) Play({.Game = game});
+}
+
+void MainWindow::Play(const GameChoice& choice) {
+    BeforeStart();
+    if (choice.Player) engine_->data.CurPlayer(*choice.Player);
+    engine_->StartGame(choice.Game, choice.Number ? *choice.Number : engine_->RandomGNo());
+    Refresh();
+}
+
+void MainWindow::OpenSelect(Qt::WindowModality modality) {
+    if (select_) select_->close();
+    BookWin();
+    select_ = new SelectDialog(*engine_, this);
+    connect(select_, &SelectDialog::RulesAsked, this,
+            [this](const QString& game) { ShowRules(game.toStdString()); });
+    connect(select_, &SelectDialog::Chosen, this, &MainWindow::Play);
+    select_->setWindowModality(modality);
     select_->show();
     select_->raise();
     select_->activateWindow();
 }
 
-void MainWindow::ShowSelect() {
-    if (select_) return ShowSelectModeless();
-    select_ = MakeSelect();
-    select_->setWindowModality(Qt::WindowModal);  // so that the rules can be read beside it
-    select_->exec();
+void MainWindow::ShowChoose() {
+    BookWin();
+    NumberDialog dialog(*engine_, this);
+    dialog.exec();
+    if (dialog.Choice()) Play(*dialog.Choice());
 }
-
-void MainWindow::ShowChoose() { NumberDialog(*engine_, this).exec(); }
 
 void MainWindow::ShowOrganizeFavorites() { OrganizeFavoritesDialog(*engine_, this).exec(); }
 
-void MainWindow::ShowPlayFavorites() { PlayFavoriteDialog(*engine_, this).exec(); }
+void MainWindow::ShowPlayFavorites() {
+    BookWin();
+    PlayFavoriteDialog dialog(*engine_, this);
+    dialog.exec();
+    if (dialog.Choice()) Play(*dialog.Choice());
+}
 
-void MainWindow::ShowPlayers() { PlayersDialog(*engine_, this).exec(); }
+void MainWindow::ShowPlayers() {
+    BookWin();
+    PlayersDialog(*engine_, this).exec();
+}
 
 void MainWindow::ShowHistory() {
     if (engine_->data.GameRunning) HistoryDialog(engine_->trans(), this).exec();
 }
 
-void MainWindow::ShowGameStat() { GameStatDialog(*engine_, Front()).exec(); }
+void MainWindow::ShowGameStat() {
+    BookWin();
+    GameStatDialog(*engine_, Front()).exec();
+}
 
-void MainWindow::ShowSesStat() { SessionDialog(*engine_, this).exec(); }
+void MainWindow::ShowSesStat() {
+    BookWin();
+    SessionDialog(*engine_, this).exec();
+}
 
-void MainWindow::ShowHighScore() { HighScoreDialog(*engine_, Front()).exec(); }
+void MainWindow::ShowHighScore() {
+    BookWin();
+    HighScoreDialog(*engine_, Front()).exec();
+}
 
-void MainWindow::ShowLogStat() { LogDialog(*engine_, this).exec(); }
+void MainWindow::ShowLogStat() {
+    BookWin();
+    LogDialog(*engine_, this).exec();
+}
 
 void MainWindow::ShowHelp() {
     ShowRules(engine_->data.GameRunning ? engine_->data.CurGName() : std::string());
@@ -193,34 +289,23 @@ QWidget* MainWindow::Front() {
 }
 
 void MainWindow::Inform(const std::string& text) {
-    QMessageBox::information(Front(), ToQt(kProductName), ToQt(text));
+    messages_.push_back({QMessageBox::Information, text});
+    QMetaObject::invokeMethod(this, &MainWindow::ShowMessages, Qt::QueuedConnection);
 }
 
 void MainWindow::Refuse(const std::string& text) {
-    QMessageBox::critical(Front(), ToQt(kProductName), ToQt(text));
+    messages_.push_back({QMessageBox::Critical, text});
+    QMetaObject::invokeMethod(this, &MainWindow::ShowMessages, Qt::QueuedConnection);
 }
 
-bool MainWindow::Ask(const std::string& text) {
-    return QMessageBox::question(Front(), ToQt(kProductName), ToQt(text)) == QMessageBox::Yes;
-}
-
-bool MainWindow::AskToStop(const std::string& text) {
-    const auto answer = QMessageBox::critical(Front(), ToQt(kProductName), ToQt(text),
-                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    return answer == QMessageBox::Yes;
-}
-
-std::optional<ChosenFile> MainWindow::AskForTextFile(const std::string& proposal) {
-    QFileDialog dialog(Front(), QStringLiteral("Export Statistics"),
-                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                       QStringLiteral("Text File (*.txt)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);  // asks before it overwrites
-    dialog.selectFile(ToQt(proposal));
-    dialog.resize(kFileDialogSize);
-    if (dialog.exec() != QDialog::Accepted) return {};
-    const QString file = dialog.selectedFiles().value(0);
-    return ChosenFile{.Path = file.toStdU16String(),
-                      .Name = QDir::toNativeSeparators(file).toStdString()};
+void MainWindow::ShowMessages() {
+    if (std::exchange(telling_, true)) return;
+    while (!messages_.empty()) {
+        const Message message = messages_.front();
+        messages_.pop_front();
+        TellInBox(Front(), message.text, message.icon);
+    }
+    telling_ = false;
 }
 
 void MainWindow::ShowCustomize() {
@@ -229,20 +314,34 @@ void MainWindow::ShowCustomize() {
     table_->RefreshDecks();
 }
 
+void MainWindow::BookWin() {
+    if (engine_->phase() != Phase::Won) return;
+    motion_.Finish();
+    finish_ = engine_->LoadFinish();
+    breath_.start(0);
+}
+
 void MainWindow::ShowFinish() {
+    const bool busy = QApplication::mouseButtons() != Qt::NoButton ||
+                      QApplication::activePopupWidget() || QApplication::activeModalWidget();
+    if (busy) return breath_.start(kTryAgain);
+    BookWin();
+    if (!finish_) return;
+    breath_.stop();
+    const FinishFigures figures = *std::exchange(finish_, std::nullopt);
     FinishChoice choice = FinishChoice::Close;
     {
-        FinishDialog dialog(engine_->LoadFinish(), this);
+        FinishDialog dialog(figures, this);
         connect(&dialog, &FinishDialog::StatisticsAsked, this, &MainWindow::ShowGameStat);
         connect(&dialog, &FinishDialog::HighScoreAsked, this, &MainWindow::ShowHighScore);
         dialog.exec();
         choice = dialog.Choice();
     }
     switch (choice) {
-        case FinishChoice::NewGame: return engine_->NewGame();
-        case FinishChoice::SelectGame: return ShowSelect();
+        case FinishChoice::NewGame: return Play({.Game = engine_->data.LastGName()});
+        case FinishChoice::SelectGame: return OpenSelect(Qt::WindowModal);
         case FinishChoice::RestartGame:
-            return engine_->StartGame(engine_->data.CurGName(), engine_->data.CurGNo);
+            return Play({.Game = engine_->data.CurGName(), .Number = engine_->data.CurGNo});
         case FinishChoice::Close: break;
     }
 }

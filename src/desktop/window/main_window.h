@@ -1,14 +1,19 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
+#include <deque>
 #include <memory>
+#include <optional>
 
+#include "desktop/choosers/game_choice.h"
 #include "desktop/choosers/select_dialog.h"
 #include "desktop/help/help_window.h"
 #include "desktop/platform/dates.h"
 #include "desktop/window/main_menu.h"
+#include "desktop/window/motion.h"
 #include "desktop/window/table_view.h"
 #include "desktop/window/toolbar.h"
 #include "engine/flow/engine.h"
@@ -16,8 +21,9 @@
 namespace varnello {
 
 /// `frmMain`: the window that carries the table, its menus and toolbar, and the timers that keep
-/// everything current by polling.
-class MainWindow : public QMainWindow, public Dialogs, private Shell {
+/// everything current by polling. It alone starts games, opens dialogs and asks questions; no call
+/// into the engine waits for any of them.
+class MainWindow : public QMainWindow, public Messages, private Shell {
     Q_OBJECT
 
 public:
@@ -32,21 +38,20 @@ public:
     explicit MainWindow(const System& system);
     ~MainWindow() override;
 
-    /// The selector, modeless over the window, as at the program's start.
-    void ShowSelectModeless();
+    /// The selector, freshly loaded and modeless over the window. It goes when a game begins.
+    void ShowSelect() override { OpenSelect(Qt::NonModal); }
 
     Engine& engine() { return *engine_; }
     TableView& table() { return *table_; }
+    Motion& motion() { return motion_; }
+    /// How long a won game rests before its dialog opens, in milliseconds.
+    void SetBreath(int milliseconds) { breathTime_ = milliseconds; }
     const MainMenu& menu() const { return *menu_; }
     const Toolbar& toolbar() const { return *toolbar_; }
     SelectDialog* select() const { return select_; }
 
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override;
-    bool Ask(const std::string& text) override;
-    bool AskToStop(const std::string& text) override;
-    std::optional<ChosenFile> AskForTextFile(const std::string& proposal) override;
-    void ShowFinish() override;
 
 Q_SIGNALS:
     /// The window is gone and with it the program.
@@ -57,7 +62,18 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void ShowSelect() override;
+    struct Message {
+        QMessageBox::Icon icon;
+        std::string text;
+    };
+
+    void NewGame() override;
+    void RestartGame() override;
+    void RecentGame(int index) override;
+    /// Starts what a dialog has chosen.
+    void Play(const GameChoice& choice);
+    /// A game begins: what belongs to the last one goes.
+    void BeforeStart();
     void ShowChoose() override;
     void ShowOrganizeFavorites() override;
     void ShowPlayFavorites() override;
@@ -75,16 +91,31 @@ private:
     void ShowRules(const std::string& game);
     void LayoutMain() override;
     void Refresh() override;
-    SelectDialog* MakeSelect();
-    /// The window that a message box belongs to.
+    void Settle() override;
+    /// Books a game that is won, ahead of the dialog that tells it: its result is to be seen in
+    /// what opens now.
+    void BookWin();
+    /// After the last flight a won game rests for a breath; then its dialog opens, as soon as
+    /// nothing else is open and no button is held.
+    void AwaitFinish();
+    void ShowFinish();
+    void OpenSelect(Qt::WindowModality modality);
+    void ShowMessages();
+    /// What a press does to what is in motion. True when it has done all that the press is for.
+    bool FilterInput(QObject* watched, QEvent* event);
+    /// The window that a dialog belongs to.
     QWidget* Front();
     void OnMainTimer();
     void OnReplayTimers();
+    void OnShown();
+    /// One step of a replay, once the last one has been shown.
+    void ReplayTick(void (Engine::*tick)());
     void StartTimers();
 
     LocaleDates dates_;
-    TableView* table_;
+    Motion motion_;
     std::unique_ptr<Engine> engine_;
+    TableView* table_ = nullptr;
     std::unique_ptr<MainMenu> menu_;
     Toolbar* toolbar_ = nullptr;
     QPointer<SelectDialog> select_;
@@ -93,6 +124,12 @@ private:
     QTimer tmrTime_;
     QTimer tmrForward_;
     QTimer tmrBackward_;
+    QTimer breath_;
+    int breathTime_ = 500;  ///< milliseconds
+    void (Engine::*waitingTick_)() = nullptr;
+    std::optional<FinishFigures> finish_;  ///< booked, and its dialog still to be opened
+    std::deque<Message> messages_;
+    bool telling_ = false;
 };
 
 }  // namespace varnello

@@ -1,29 +1,38 @@
 #include "desktop/window/table_view.h"
 
-#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScreen>
 #include <cmath>
-#include <thread>
 
 namespace varnello {
 namespace {
 
 constexpr double kShiftLeft = 20;  // twips that the table stands left of the middle
 
-// A deal of 52 cards takes about one and a half seconds, with three steps a card.
-constexpr std::chrono::microseconds kDealStep{9500};
-
 }  // namespace
 
-TableView::TableView(QWidget* parent) : QWidget(parent) {
+TableView::TableView(Motion& motion, Engine& engine, QWidget* parent)
+    : QWidget(parent), motion_(motion), engine_(engine) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Card table"));
+    connect(&motion_, &Motion::Moved, this, [this] {
+        const QRegion changed = ToWidget(TakeChanges());
+        if (isVisible()) repaint(changed);
+    });
+    connect(&motion_, &Motion::Changed, this, &TableView::SyncSoon);
 }
 
-void TableView::SetEngine(Engine* engine) { engine_ = engine; }
+void TableView::SyncSoon() {
+    if (std::exchange(syncing_, true)) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            syncing_ = false;
+            update(ToWidget(TakeChanges()));
+        },
+        Qt::QueuedConnection);
+}
 
 QSize TableView::sizeHint() const {
     return {qRound(kTableWidth / kTwipsPerPixel), qRound(kTableHeight / kTwipsPerPixel)};
@@ -54,7 +63,7 @@ QPointF TableView::ToTwips(const QPointF& point) const {
 }
 
 QPoint TableView::CardCentre(PicID id) const {
-    const KesCard& card = engine_->table.Card(id);
+    const KesCard& card = engine_.table.Card(id);
     const QPointF twips(card.Left + kCardWidth / 2.0, card.Top + kCardHeight / 2.0);
     return (twips / kTwipsPerPixel + QPointF(TableCorner()) / Ratio()).toPoint();
 }
@@ -80,10 +89,10 @@ QRegion TableView::TakeChanges() {
         shown = now;
     };
     for (PicID id = 0; id < kCardObjects; ++id) {
-        take(shownCards_[static_cast<std::size_t>(id)], Look(engine_->table.Card(id)));
+        take(shownCards_[static_cast<std::size_t>(id)], Look(motion_.Scene().Card(id)));
     }
     std::size_t place = 0;
-    ForEachSlot(engine_->table, [&](const char*, int, const KesEmpty& slot) {
+    ForEachSlot(motion_.Scene(), [&](const char*, int, const KesEmpty& slot) {
         take(shownSlots_[place++], Look(slot));
     });
     return changed;
@@ -99,35 +108,11 @@ QRegion TableView::ToWidget(const QRegion& device) const {
     return region;
 }
 
-void TableView::Sync() { update(ToWidget(TakeChanges())); }
-
-void TableView::Repaint() {
-    const QRegion changed = ToWidget(TakeChanges());
-    if (!changed.isEmpty() && isVisible()) repaint(changed);
-}
-
-void TableView::RepaintFlight() {
-    const auto shown = Steady::now();
-    Repaint();
-    if (paced_ && isVisible()) std::this_thread::sleep_until(shown + FlightStep());
-}
-
-std::chrono::steady_clock::duration TableView::FlightStep() const {
-    if (engine_->Dealing()) return kDealStep;
-    const double rate = screen() ? std::clamp(screen()->refreshRate(), 30.0, 240.0) : 60.0;
-    return std::chrono::duration_cast<Steady::duration>(std::chrono::duration<double>(1.0 / rate));
-}
-
-void TableView::Yield() {
-    Sync();
-    QCoreApplication::processEvents();
-}
-
 void TableView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const CardPictures& pictures = Pictures();
     if (background_.isNull()) {
-        background_ = BackgroundPicture(Ratio(), StoredBackground(engine_->data));
+        background_ = BackgroundPicture(Ratio(), StoredBackground(engine_.data));
     }
 
     // From here on in device pixels with the table's corner at the origin, so that every edge stays
@@ -143,11 +128,11 @@ void TableView::paintEvent(QPaintEvent* event) {
     for (const QRect& rect : beside) painter.fillRect(rect, palette().color(QPalette::Mid));
     const QRect part = dirty & background_.rect();
     painter.drawImage(part.topLeft(), background_, part);
-    PaintTable(painter, engine_->table, pictures, engine_->data.Get(keys::DeckIndex), dirty);
+    PaintTable(painter, motion_.Scene(), pictures, engine_.data.Get(keys::DeckIndex), dirty);
 }
 
 bool TableView::OnStockSlot(const QPointF& twips) const {
-    const KesEmpty& slot = engine_->table.PicStock[0];
+    const KesEmpty& slot = engine_.table.PicStock[0];
     return slot.Visible && QRectF(slot.Left, slot.Top, kCardWidth, kCardHeight).contains(twips);
 }
 
@@ -156,29 +141,28 @@ void TableView::mousePressEvent(QMouseEvent* event) {
     pressedButton_ = event->button();
     setMouseTracking(true);  // a release that was lost shows as a move without a button
     const QPointF at = ToTwips(event->position());
-    pressed_ = engine_->table.CardAt(at.x(), at.y());
+    pressed_ = engine_.table.CardAt(at.x(), at.y());
     if (pressed_ == kNoCard) {
         stockPressed_ = OnStockSlot(at);
         return;
     }
-    const KesCard& card = engine_->table.Card(pressed_);
-    engine_->gestures().MouseDown(pressed_, at.x() - card.Left, at.y() - card.Top);
-    Sync();
+    const KesCard& card = engine_.table.Card(pressed_);
+    engine_.gestures().MouseDown(pressed_, at.x() - card.Left, at.y() - card.Top);
 }
 
 void TableView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons() == Qt::NoButton) return EndGesture();  // the release was lost
     if (pressed_ == kNoCard) return;
+    if (engine_.gestures().Dragging()) motion_.Finish();
     const QPointF at = ToTwips(event->position());
-    const KesCard& card = engine_->table.Card(pressed_);
-    engine_->gestures().MouseMove(pressed_, at.x() - card.Left, at.y() - card.Top);
-    Sync();
+    const KesCard& card = engine_.table.Card(pressed_);
+    engine_.gestures().MouseMove(pressed_, at.x() - card.Left, at.y() - card.Top);
 }
 
 void TableView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != pressedButton_) return;
     if (stockPressed_ && OnStockSlot(ToTwips(event->position()))) {
-        engine_->gestures().StockClick();
+        engine_.gestures().StockClick();
     }
     EndGesture();
 }
@@ -188,8 +172,8 @@ void TableView::EndGesture() {
     pressedButton_ = Qt::NoButton;
     setMouseTracking(false);
     stockPressed_ = false;
-    if (id != kNoCard) engine_->gestures().MouseUp(id);
-    Sync();
+    if (engine_.gestures().Dragging()) motion_.Finish();
+    if (id != kNoCard) engine_.gestures().MouseUp(id);
 }
 
 }  // namespace varnello

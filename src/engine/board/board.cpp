@@ -15,7 +15,6 @@ cArray::cArray(const cGames& games, Table& table, Generator& generator, TableSur
 void cArray::Clear() {
     for (auto& pile : cardGrid_) pile.fill(kNoCard);
     topIndex_.fill(-1);
-    ++serial_;
 }
 
 void cArray::Init(double GameNo) {
@@ -42,39 +41,41 @@ void cArray::RandomInit(double GameNo) {
 }
 
 void cArray::AddtoWaste(PicID id) {
-    const Place to{Cell::Waste, 0, Saturate16(GetTop(Cell::Waste, 0) + 1)};
-    MoveCard(id, to, MoveKind::FromStock, 3, 0, FaceMode::Open);
+    MoveCard({.PicId = id,
+              .To = {Cell::Waste, 0, GetTop(Cell::Waste, 0) + 1},
+              .tMod = MoveKind::FromStock,
+              .Speed = 3});
 }
 
 void cArray::MoveWasteStock() {
     for (int i = GetTop(Cell::Waste, 0); i >= 0; --i) {
-        const Place to{Cell::Stock, 0, Saturate16(GetTop(Cell::Stock, 0) + 1)};
-        MoveCard(GetTopPicID(Cell::Waste, 0), to, MoveKind::Deal, 0, 0, FaceMode::Closed);
+        MoveCard({.PicId = GetTopPicID(Cell::Waste, 0),
+                  .To = {Cell::Stock, 0, GetTop(Cell::Stock, 0) + 1},
+                  .tMod = MoveKind::Deal,
+                  .DFace = FaceMode::Closed});
     }
 }
 
-std::int16_t cArray::TotalGoalCards() const {
+int cArray::TotalGoalCards() const {
     int cards = 0;
     for (int pile = 0; pile < 8; ++pile) cards += GetTop(Cell::Goal, pile) + 1;
-    return Saturate16(cards);
+    return cards;
 }
 
-std::int16_t cArray::ClosedCards(int pile) const {
-    std::int16_t closed = 0;
+int cArray::ClosedCards(int pile) const {
+    int closed = 0;
     for (int pos = 0; pos <= GetTop(Cell::Home, pile); ++pos) {
         if (table_.Card(GetPicID(Cell::Home, pile, pos)).FaceMode == FaceMode::Closed) ++closed;
     }
     return closed;
 }
 
-std::int16_t cArray::GetCordX(const Place& place) const {
-    return games_.GetCordX(place,
-                           place.Cell == Cell::Home ? ClosedCards(place.Pile) : std::int16_t{0});
+int cArray::GetCordX(const Place& place) const {
+    return games_.GetCordX(place, place.Cell == Cell::Home ? ClosedCards(place.Pile) : 0);
 }
 
-std::int16_t cArray::GetCordY(const Place& place) const {
-    return games_.GetCordY(place,
-                           place.Cell == Cell::Home ? ClosedCards(place.Pile) : std::int16_t{0});
+int cArray::GetCordY(const Place& place) const {
+    return games_.GetCordY(place, place.Cell == Cell::Home ? ClosedCards(place.Pile) : 0);
 }
 
 }  // namespace varnello

@@ -10,24 +10,14 @@
 
 namespace varnello {
 
-/// The kind of a card's move.
-enum class MoveKind : std::int32_t {
-    Play = 0,       // a drop, autoplay, the taking off of a run
-    FromStock = 1,  // a stock card dealt in play
-    ToStock = 2,    // a waste card turned back
-    Uncover = 3,    // a move that opened the card below; only `MoveCard` itself says so
-    UndoRedo = 4,
-    Deal = 5
-};
-
 /// One call of `MoveCard`, in the order of its arguments.
 struct CardMove {
     PicID PicId;
     Place To;
-    MoveKind tMod;
-    std::int16_t Speed;   ///< steps of the flight; 0 or less: the card jumps
-    std::int16_t mCards;  ///< cards lying above this one that go with it
-    FaceMode DFace;       ///< the face of every moved card at its target
+    MoveKind tMod = MoveKind::Play;
+    int Speed = 0;                    ///< steps of the flight; 0 or less: the card jumps
+    int mCards = 0;                   ///< cards lying above this one that go with it
+    FaceMode DFace = FaceMode::Open;  ///< the face of every moved card at its target
 };
 
 /// What a card's move sets off further up. The game flow implements it, so that the board needs to
@@ -35,13 +25,14 @@ struct CardMove {
 class MoveFollower {
 public:
     virtual ~MoveFollower() = default;
-    virtual bool GameRunning() const = 0;
+    /// Whether a game is being played and isn't won yet.
+    virtual bool Playing() const = 0;
     /// A move is accepted and about to be made; nothing has changed place yet.
     virtual void MoveBegins(const CardMove& move) = 0;
     /// The move belongs into the log. The card still holds its old place.
     virtual void SaveTrans(const CardMove& move) = 0;
     virtual void AutoPlay() = 0;
-    /// May show the won dialog, from which a whole new game can start.
+    /// The last step of a move.
     virtual void CheckWon() = 0;
 };
 
@@ -53,7 +44,7 @@ public:
            MoveFollower& follower);
 
     /// Position of the pile's top card, -1 for an empty pile.
-    std::int16_t GetTop(Cell cell, int pile) const { return TopIndex(cell, pile); }
+    int GetTop(Cell cell, int pile) const { return TopIndex(cell, pile); }
     /// The top card; the pile must not be empty.
     PicID GetTopPicID(Cell cell, int pile) const {
         return GetPicID(cell, pile, GetTop(cell, pile));
@@ -64,8 +55,17 @@ public:
     void AddtoWaste(PicID id);
     /// Moves the whole waste back at once, unlogged.
     void MoveWasteStock();
-    void MoveCard(PicID id, Place to, MoveKind tMod, std::int16_t Speed, std::int16_t mCards,
-                  FaceMode DFace);
+    void MoveCard(CardMove move);
+    /// Turns a card where it lies.
+    void Turn(PicID id, FaceMode face);
+    /// Tells the surface how a card looks that was moved by hand.
+    void ShowCard(PicID id) { surface_.CardChanged(id, table_.Card(id)); }
+    /// Tells the surface how the slot of a pile looks.
+    void ShowSlot(Cell cell, int pile) {
+        surface_.SlotChanged(cell, pile, table_.Slot(cell, pile));
+    }
+    /// Whether a game is being played and isn't won yet.
+    bool Playing() const { return follower_.Playing(); }
 
     /// The card value at a position of the shuffled deck.
     std::int16_t GetRandom(int position) const {
@@ -77,22 +77,14 @@ public:
     /// Empties the tables: with no game running the board counts as empty.
     void Clear();
 
-    std::int16_t TotalGoalCards() const;
-    std::int16_t ClosedCards(int pile) const;
+    int TotalGoalCards() const;
+    int ClosedCards(int pile) const;
 
-    std::int16_t GetCordX(const Place& place) const;
-    std::int16_t GetCordY(const Place& place) const;
-
-    /// Off: cards jump and nothing is repainted or yielded, for a deal that was given up half-way.
-    void SetMotion(bool on) { motion_ = on; }
-
-    /// Changes whenever a game's board comes or goes. Whoever is still on the stack when another
-    /// game may have begun compares it before touching the board again.
-    std::uint64_t Serial() const { return serial_; }
+    int GetCordX(const Place& place) const;
+    int GetCordY(const Place& place) const;
 
 private:
-    void PlaceCard(PicID id, Place to, MoveKind tMod, std::int16_t Speed, FaceMode DFace);
-    void Fly(KesCard& card, double x, double y, int steps);
+    void PlaceCard(PicID id, Place to, const CardMove& move, int Speed);
 
     static std::size_t PileIndex(Cell cell, int pile) {
         return static_cast<std::size_t>(cell) * kPilesPerCell + static_cast<std::size_t>(pile);
@@ -116,8 +108,6 @@ private:
     std::array<std::array<PicID, kCardObjects + 1>, kAllPiles> cardGrid_;
     std::array<std::int16_t, kAllPiles> topIndex_;
     std::array<std::int16_t, kCardObjects + 1> dealOrder_{};
-    bool motion_ = true;
-    std::uint64_t serial_ = 0;
 };
 
 }  // namespace varnello

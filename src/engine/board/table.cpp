@@ -4,6 +4,18 @@
 
 namespace varnello {
 
+KesEmpty& Table::Slot(Cell cell, int pile) {
+    const auto index = static_cast<std::size_t>(pile);
+    switch (cell) {
+        case Cell::Home: return PicHome.at(index);
+        case Cell::Stock: return PicStock.at(index);
+        case Cell::Waste: return PicWaste.at(index);
+        case Cell::Goal: return PicRight.at(index);
+        case Cell::Res: break;
+    }
+    return PicRes.at(index);
+}
+
 std::vector<PicID> Table::VisibleCards() const {
     std::vector<PicID> cards;
     cards.reserve(PicCards.size());
@@ -24,6 +36,34 @@ PicID Table::CardAt(double x, double y) const {
         if (covers && (found == kNoCard || card.Height > Card(found).Height)) found = id;
     }
     return found;
+}
+
+namespace {
+
+bool SameCard(const KesCard& a, const KesCard& b) {
+    if (!a.Visible || !b.Visible) return a.Visible == b.Visible;
+    const bool closed = a.FaceMode == FaceMode::Closed;
+    const bool sameValue = closed || (a.Suit == b.Suit && a.Num == b.Num);
+    return a.FaceMode == b.FaceMode && sameValue && a.Left == b.Left && a.Top == b.Top &&
+           a.Height == b.Height;
+}
+
+bool SameSlot(const KesEmpty& a, const KesEmpty& b) {
+    if (!a.Visible || !b.Visible) return a.Visible == b.Visible;
+    return a.Picture == b.Picture && a.Left == b.Left && a.Top == b.Top;
+}
+
+}  // namespace
+
+bool LooksSame(const Table& one, const Table& other) {
+    const auto same = [](const auto& a, const auto& b, auto test) {
+        return std::equal(a.begin(), a.end(), b.begin(), test);
+    };
+    return same(one.PicCards, other.PicCards, SameCard) &&
+           same(one.PicHome, other.PicHome, SameSlot) && same(one.PicRes, other.PicRes, SameSlot) &&
+           same(one.PicRight, other.PicRight, SameSlot) &&
+           same(one.PicWaste, other.PicWaste, SameSlot) &&
+           same(one.PicStock, other.PicStock, SameSlot);
 }
 
 void Table::Clear() {

@@ -16,6 +16,9 @@ public:
     KesCard& Card(PicID id) { return PicCards[static_cast<std::size_t>(id)]; }
     const KesCard& Card(PicID id) const { return PicCards[static_cast<std::size_t>(id)]; }
 
+    /// The slot of a pile.
+    KesEmpty& Slot(Cell cell, int pile);
+
     void BringToFront(PicID id) { Card(id).Height = ++front_; }
 
     /// The visible cards from the backmost to the frontmost.
@@ -36,6 +39,9 @@ public:
 private:
     std::uint64_t front_ = 0;
 };
+
+/// Whether two tables look the same: what is visible on them, where, and what lies in front.
+bool LooksSame(const Table& one, const Table& other);
 
 /// Calls `visit(arrayName, index, slot)` for every slot, in the order home, res, right, waste,
 /// stock.

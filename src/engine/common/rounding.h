@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -22,6 +23,12 @@ inline double RoundHalfEven2(double value) { return RoundHalfEven(value * 100.0)
 constexpr std::int16_t Saturate16(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+/// `value` as it is stored in 16 bits. It has to fit: anything else is a fault of the caller.
+constexpr std::int16_t Narrow16(int value) {
+    assert(value == static_cast<std::int16_t>(value));
+    return static_cast<std::int16_t>(value);
 }
 
 /// `value` as a signed 32-bit number; what lies outside stays at the limit.

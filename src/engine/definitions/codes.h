@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "engine/common/rounding.h"
+
 /// The small codes from which a game is put together. All stored numbers are part of the records,
 /// so every code has a fixed width and value.
 namespace varnello {
@@ -16,13 +18,27 @@ enum class Cell : std::int16_t { Home = 0, Stock = 1, Waste = 2, Goal = 3, Res =
 inline constexpr int kCells = 5;
 inline constexpr int kPilesPerCell = 21;
 
-/// A card's place: pile and position count from 0, position 0 is the bottom of the pile.
+/// A card's place: pile and position count from 0, position 0 is the bottom of the pile, -1 the
+/// top of an empty one.
 struct Place {
     varnello::Cell Cell = Cell::Home;
     std::int16_t Pile = 0;
     std::int16_t Pos = 0;
 
+    constexpr Place() = default;
+    constexpr Place(varnello::Cell cell, int pile, int pos)
+        : Cell(cell), Pile(Narrow16(pile)), Pos(Narrow16(pos)) {}
     bool operator==(const Place&) const = default;
+};
+
+/// The kind of a card's move.
+enum class MoveKind : std::int32_t {
+    Play = 0,       // a drop, autoplay, the taking off of a run
+    FromStock = 1,  // a stock card dealt in play
+    ToStock = 2,    // a waste card turned back
+    Uncover = 3,    // a move that opened the card below; only `MoveCard` itself says so
+    UndoRedo = 4,
+    Deal = 5
 };
 
 /// How a card may lie on another: a rank rule and a suit rule. Numbers that aren't listed, 10 and

@@ -65,7 +65,7 @@ void cGames::Res(const ResDef& def) { Def(Cell::Res) = CellOf(def); }
 
 void cGames::Ext(const ExtDef& def) { ext_ = def; }
 
-OrderCode cGames::Order(Cell cell, std::int16_t pile) const {
+OrderCode cGames::Order(Cell cell, int pile) const {
     if (Tag() == Tag::FreecellAK && cell == Cell::Goal && pile >= 2) return OrderCode::DownSuit;
     return Def(cell).Order;
 }

@@ -114,15 +114,15 @@ public:
 
     /// Where a card place lies on the table, in twips. `ClosedCards` is the number of closed cards
     /// in the tableau pile that the place belongs to; other cells pay it no heed.
-    std::int16_t GetCordX(const Place& place, std::int16_t ClosedCards) const;
-    std::int16_t GetCordY(const Place& place, std::int16_t ClosedCards) const;
+    int GetCordX(const Place& place, int ClosedCards) const;
+    int GetCordY(const Place& place, int ClosedCards) const;
 
     std::int16_t Piles(Cell cell) const { return Def(cell).Piles; }
     std::int16_t Cards(Cell cell) const { return Def(cell).Cards; }
     bool AK(Cell cell) const { return Def(cell).AK != 0; }
     /// How cards build on a pile. In the family "FreecellAK" the foundations from pile 2 on build
     /// down, whatever the record says.
-    OrderCode Order(Cell cell, std::int16_t pile) const;
+    OrderCode Order(Cell cell, int pile) const;
     /// What a carried group must satisfy inside itself.
     OrderCode MultiOrder() const;
     varnello::GoalType GoalType() const { return goalType_; }

@@ -57,11 +57,11 @@ cGames::Point cGames::CellPos(const Place& place, int closedCards) const {
     return at;
 }
 
-std::int16_t cGames::GetCordX(const Place& place, std::int16_t ClosedCards) const {
+int cGames::GetCordX(const Place& place, int ClosedCards) const {
     return RoundTo16((kSpanWidth - BaseX()) / 2 + kSpanLeft + CellPos(place, ClosedCards).X);
 }
 
-std::int16_t cGames::GetCordY(const Place& place, std::int16_t ClosedCards) const {
+int cGames::GetCordY(const Place& place, int ClosedCards) const {
     return Saturate16(CellPos(place, ClosedCards).Y + BaseY());
 }
 

@@ -37,37 +37,28 @@ bool Engine::IsChoosable(std::string_view text) const {
     return tested > 0 && static_cast<double>(tested) < MaxGNo();
 }
 
-bool Engine::ChooseNumber(const std::string& game, const std::string& text,
-                          const std::function<void()>& accepted) {
-    if (!IsChoosable(text)) {
-        desktop_.dialogs.Inform("Please enter a number between " + RangeText());
-        return false;
-    }
-    if (accepted) accepted();
-    StartGame(game, GameNumber::Text(text));
-    return true;
+bool Engine::AcceptNumber(const std::string& text) {
+    if (IsChoosable(text)) return true;
+    desktop_.messages.Inform("Please enter a number between " + RangeText());
+    return false;
 }
 
-bool Engine::ClearRecentGames() {
-    if (!desktop_.dialogs.Ask("Are you sure you want to clear the Recent Games List ?")) {
-        return false;
-    }
+void Engine::ClearRecentGames() {
     data.ClearRecent();
-    desktop_.dialogs.Inform("Recent Games List has been Cleared.");
-    return true;
+    desktop_.messages.Inform("Recent Games List has been Cleared.");
 }
 
 void Engine::AddFavorite() {
     if (!UpdateMenus().mFav1) return;
     if (!favorites.AddFav(data.CurGName(), data.CurGNo)) {
         const auto file = favorites.File().u8string();
-        desktop_.dialogs.Inform("The favorite could not be written to the file\n" +
-                                std::string(file.begin(), file.end()));
+        desktop_.messages.Inform("The favorite could not be written to the file\n" +
+                                 std::string(file.begin(), file.end()));
         return;
     }
-    desktop_.dialogs.Inform("Game <" + data.CurGNo.Shown() +
-                            "> Successfully Added to Favorites Under <" + data.CurGName() +
-                            "> Folder");
+    desktop_.messages.Inform("Game <" + data.CurGNo.Shown() +
+                             "> Successfully Added to Favorites Under <" + data.CurGName() +
+                             "> Folder");
 }
 
 }  // namespace varnello

@@ -9,8 +9,8 @@ MenuMarks Engine::UpdateMenus() const {
     return MarksOf({.GameRunning = data.GameRunning,
                     .ReplayOn = forwardOn_ || backwardOn_,
                     .StopEnabled = stopEnabled_,
-                    .UndoPossible = trans_->UndoPossible(),
-                    .RedoPossible = trans_->RedoPossible(),
+                    .UndoPossible = !data.GameWon && trans_.UndoPossible(),
+                    .RedoPossible = !data.GameWon && trans_.RedoPossible(),
                     .DisAutoPlay = games.DisAutoPlay(),
                     .Autoplay = data.Get(keys::Autoplay) != 0,
                     .ShowToolbar = data.Get(keys::ShowToolbar) != 0});
@@ -37,32 +37,32 @@ void Engine::RestartGame() {
 }
 
 void Engine::CloseGame() {
-    if (UpdateMenus().mFile5) EndGame(0);
+    if (UpdateMenus().mFile5) LeaveGame();
 }
 
 void Engine::Undo() {
-    std::int16_t speed = data.Get(keys::UndoSpeed);
-    if (UpdateMenus().mGame1) std::shared_ptr(trans_)->Undo(speed);
+    int speed = data.Get(keys::UndoSpeed);
+    if (UpdateMenus().mGame1) trans_.Undo(speed);
 }
 
 void Engine::Redo() {
-    std::int16_t speed = data.Get(keys::UndoSpeed);
-    if (UpdateMenus().mGame2) std::shared_ptr(trans_)->Redo(speed);
+    int speed = data.Get(keys::UndoSpeed);
+    if (UpdateMenus().mGame2) trans_.Redo(speed);
 }
 
 void Engine::UndoAll() {
-    if (UpdateMenus().mGame6) std::shared_ptr(trans_)->UndoAll(data.Get(keys::UndoallSpeed));
+    if (UpdateMenus().mGame6) trans_.UndoAll(data.Get(keys::UndoallSpeed));
 }
 
 void Engine::RedoAll() {
-    if (UpdateMenus().mGame7) std::shared_ptr(trans_)->RedoAll(data.Get(keys::UndoallSpeed));
+    if (UpdateMenus().mGame7) trans_.RedoAll(data.Get(keys::UndoallSpeed));
 }
 
 void Engine::ToggleAutoplay() {
     if (!UpdateMenus().mGame4) return;
     const bool turnedOn = data.Get(keys::Autoplay) == 0;
     data.Set(keys::Autoplay, turnedOn ? 1 : 0);
-    if (turnedOn && data.GameRunning) varnello::AutoPlay(field_);
+    if (turnedOn && data.Playing()) varnello::AutoPlay(field_);
 }
 
 void Engine::ToggleToolbar() {
@@ -79,9 +79,8 @@ void Engine::ReplayBack() {
 
 void Engine::ReplayAll() {
     if (!UpdateMenus().mReplay4) return;
-    const std::uint64_t serial = array_.Serial();
-    std::shared_ptr(trans_)->UndoAll(1);
-    if (array_.Serial() == serial) forwardOn_ = true;
+    trans_.UndoAll(1);
+    forwardOn_ = data.Playing();
 }
 
 void Engine::StopReplay() {
@@ -95,19 +94,19 @@ void Engine::EndReplay() {
 }
 
 void Engine::ForwardTick() {
-    if (!data.GameRunning) return;
+    if (!data.Playing()) return;
     backwardOn_ = false;
     stopEnabled_ = true;
-    std::int16_t speed = data.Get(keys::ReplaySpeed);
-    if (!std::shared_ptr(trans_)->Redo(speed)) EndReplay();
+    int speed = data.Get(keys::ReplaySpeed);
+    if (!trans_.Redo(speed)) EndReplay();
 }
 
 void Engine::BackwardTick() {
-    if (!data.GameRunning) return;
+    if (!data.Playing()) return;
     forwardOn_ = false;
     stopEnabled_ = true;
-    std::int16_t speed = data.Get(keys::ReplaySpeed);
-    if (!std::shared_ptr(trans_)->Undo(speed)) EndReplay();
+    int speed = data.Get(keys::ReplaySpeed);
+    if (!trans_.Undo(speed)) EndReplay();
 }
 
 }  // namespace varnello

@@ -7,18 +7,17 @@
 #include "engine/rules/deal.h"
 
 namespace varnello {
-namespace {
 
-/// The stock's mark in games with a redeal: the stop sign once nothing is left to turn over.
-std::int16_t RedealMark(const cArray& array) {
-    const bool cardsLeft = array.GetTop(Cell::Stock, 0) >= 0 || array.GetTop(Cell::Waste, 0) >= 0;
+void Engine::ShowRedealMark() {
+    const bool cardsLeft = array_.GetTop(Cell::Stock, 0) >= 0 || array_.GetTop(Cell::Waste, 0) >= 0;
     const StockNum mark = cardsLeft ? StockNum::Redeal : StockNum::Stop;
-    return Saturate16(kPlainSlot + static_cast<int>(mark));
+    const std::int16_t picture = Narrow16(kPlainSlot + static_cast<int>(mark));
+    if (table.PicStock[0].Picture == picture) return;
+    table.PicStock[0].Picture = picture;
+    array_.ShowSlot(Cell::Stock, 0);
 }
 
-}  // namespace
-
-std::int16_t ScoreOf(std::int16_t goalCards, std::int32_t seconds, std::int16_t moves) {
+std::int16_t ScoreOf(int goalCards, std::int32_t seconds, std::int16_t moves) {
     return RoundTo16(goalCards * 10 - (seconds / 3.0 + moves / 2.0));
 }
 
@@ -37,7 +36,7 @@ CounterCaptions Engine::TimeTick() {
     CounterCaptions captions;
     if (!data.GameRunning) return captions;
 
-    const std::int16_t moves = trans_->GetTransID();
+    const std::int16_t moves = trans_.GetTransID();
     const std::int32_t elapsed = ElapsedTime();
     const std::int16_t currentScore = CalcScore();  // from the time and moves of the last tick
     if (data.Get(keys::ShowScore) == 1) {
@@ -48,7 +47,7 @@ CounterCaptions Engine::TimeTick() {
     data.CurScore = currentScore;
     data.CurTime = elapsed;
     data.CurMoves = moves;
-    if (games.StockNum() == StockNum::Redeal) table.PicStock[0].Picture = RedealMark(array_);
+    if (games.StockNum() == StockNum::Redeal) ShowRedealMark();
     return captions;
 }
 

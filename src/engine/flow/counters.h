@@ -13,6 +13,6 @@ struct CounterCaptions {
 };
 
 /// Ten points for each card on a foundation, less a third of the seconds and half of the moves.
-std::int16_t ScoreOf(std::int16_t goalCards, std::int32_t seconds, std::int16_t moves);
+std::int16_t ScoreOf(int goalCards, std::int32_t seconds, std::int16_t moves);
 
 }  // namespace varnello

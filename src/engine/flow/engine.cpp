@@ -18,7 +18,7 @@ Engine::Engine(const Desktop& desktop)
       selectGame([](cGames& record, const std::string& name) { SelectGame(record, name); }),
       desktop_(desktop),
       array_(games, table, generator_, desktop.surface, *this),
-      trans_(std::make_shared<cTrans>(array_, table, data)),
+      trans_(array_, table, data),
       field_{data, games, generator_, table, array_, trans_},
       gestures_(field_) {
     data.SesStartTime = desktop_.clock.Now();
@@ -47,71 +47,69 @@ GameNumber Engine::RandomGNo() {
     return GameNumber::Number(std::max(std::floor(drawn), 1.0));
 }
 
-void Engine::StartGame(const std::string& name, const GameNumber& number) {
-    if (dealing_) {
-        AbandonDeal();
-        nextGame_ = {name, number};
-        return;
-    }
-    Begin({name, number});
-    while (nextGame_) {
-        const GameRequest next = *std::exchange(nextGame_, std::nullopt);
-        Begin(next);
-    }
+Phase Engine::phase() const {
+    if (dealing_) return Phase::Dealing;
+    if (!data.GameRunning) return Phase::Idle;
+    return data.GameWon ? Phase::Won : Phase::Playing;
 }
 
-void Engine::Begin(const GameRequest& request) {
-    if (data.GameRunning) EndGame(0);
-    data.SetRecent(request.name);
-    selectGame(games, request.name);
-    data.CurGNo = request.number;
-    data.CurGName(request.name);
+void Engine::StartGame(const std::string& name, const GameNumber& number) {
+    LeaveGame();
+    if (dealing_) ClearTable();
+    data.SetRecent(name);
+    selectGame(games, name);
+    data.CurGNo = number;
+    data.CurGName(name);
     caption_ = std::string(kProductName) + " [" + data.CurGName() + "] [" + data.CurPlayer() +
                "] [" + data.CurGNo.Shown() + "]";
 
     generator_.rtcRandomize(desktop_.clock.Timer());
     array_.Init(data.CurGNo.Value());
     SetCardValues(field_);
-    trans_ = std::make_shared<cTrans>(array_, table, data);
+    trans_.Clear();
 
     dealing_ = true;
     NewDeal(field_);
-    if (!dealAbandoned_) varnello::AutoPlay(field_);
-    dealing_ = false;
-    if (std::exchange(dealAbandoned_, false)) {
-        array_.SetMotion(true);
-        array_.Clear();
-        table.Clear();
-        desktop_.surface.Repaint();
-        return;
-    }
+    varnello::AutoPlay(field_);
+    if (!desktop_.surface.Showing()) Shown();
+}
+
+void Engine::Shown() {
+    if (!std::exchange(dealing_, false)) return;
     data.GameRunning = true;
     data.GameStartTime = desktop_.clock.Now();
 }
 
-void Engine::AbandonDeal() {
-    if (!dealing_) return;
-    dealAbandoned_ = true;
-    array_.SetMotion(false);
+void Engine::LeaveGame() {
+    if (data.GameRunning) EndGame(data.GameWon ? Outcome::Won : Outcome::NotWon);
 }
 
-void Engine::EndGame(std::int16_t won) {
-    if (!score.AddScore(won)) {
+void Engine::EndGame(Outcome outcome) {
+    if (!score.AddScore(outcome)) {
         const auto file = ScorePath(data, data.CurPlayer()).u8string();
-        desktop_.dialogs.Inform("The result of this game could not be written to the file\n" +
-                                std::string(file.begin(), file.end()));
+        desktop_.messages.Inform("The result of this game could not be written to the file\n" +
+                                 std::string(file.begin(), file.end()));
     }
-    score.AddSesGame(won);
+    score.AddSesGame(outcome);
     data.GameRunning = false;
+    data.GameWon = false;
     EndReplay();
     gestures_.Reset();
+    ClearTable();
+}
+
+void Engine::ClearTable() {
+    dealing_ = false;
     array_.Clear();
     table.Clear();
-    desktop_.surface.Repaint();
+    desktop_.surface.Cleared();
 }
 
 void Engine::CheckWon() {
-    if (array_.TotalGoalCards() == games.TotalCards()) desktop_.dialogs.ShowFinish();
+    if (array_.TotalGoalCards() != games.TotalCards()) return;
+    data.GameWon = true;
+    EndReplay();
+    if (onWon) onWon();
 }
 
 FinishFigures Engine::LoadFinish() {
@@ -125,7 +123,7 @@ FinishFigures Engine::LoadFinish() {
         .Moves = data.CurMoves,
         .Time = data.CurTime};
     data.PlaySound(Sound::Win);
-    EndGame(1);
+    EndGame(Outcome::Won);
     return figures;
 }
 

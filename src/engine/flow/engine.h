@@ -2,8 +2,6 @@
 
 #include <array>
 #include <functional>
-#include <memory>
-#include <optional>
 #include <string>
 
 #include "engine/board/board.h"
@@ -26,6 +24,23 @@ struct FinishFigures {
     std::int32_t Time = 0;  ///< seconds
 };
 
+/// Where the life of a game stands.
+enum class Phase {
+    Idle,     ///< no game; the table is empty
+    Dealing,  ///< a deal is laid out and not yet shown
+    Playing,
+    Won  ///< all cards are up; the game ends as won with whatever ends it
+};
+
+// What is asked before what can't be taken back.
+inline constexpr std::string_view kClearRecentQuestion =
+    "Are you sure you want to clear the Recent Games List ?";
+inline constexpr std::string_view kClearStatQuestion =
+    "Are you sure you want to clear the Statistics, High Score and Log for all Players and all "
+    "Games ?";
+inline constexpr std::string_view kDeletePlayerQuestion =
+    "Are you sure you want to delete this player";
+
 /// 10 to the power of a range index, at most 15; 0 for an index below 1.
 double NumberLimit(std::int16_t rangeIndex);
 
@@ -45,17 +60,19 @@ public:
     void InitMain();
 
     // The life of a game.
-    /// Begins a game; a running one ends as not won first. During a deal the deal is given up and
-    /// the new game follows it at once.
+    /// Lays out a deal; a running game ends first. It becomes the running game when the surface has
+    /// shown it. A deal that hasn't been shown yet goes without a record.
     void StartGame(const std::string& name, const GameNumber& number);
-    /// Books the running game, 1 for won and 0 for not won, and empties the table.
-    void EndGame(std::int16_t won);
+    /// The surface has shown everything: a deal becomes the running game.
+    void Shown();
+    /// Books the running game and empties the table.
+    void EndGame(Outcome outcome);
+    /// Ends the running game as what it is, won or not won; nothing without one.
+    void LeaveGame();
     /// What the won dialog does when it loads: its figures, the sound, and the game's end as won.
     FinishFigures LoadFinish();
     GameNumber RandomGNo();
-    bool Dealing() const { return dealing_; }
-    /// Gives a deal in progress up; it leaves no record. Nothing without one.
-    void AbandonDeal();
+    Phase phase() const;
 
     // Commands. Each is ignored when its menu item would be disabled now.
     void NewGame() { StartGame(data.LastGName(), RandomGNo()); }
@@ -80,20 +97,20 @@ public:
     std::string RangeText() const;
     /// Whether the text reads as a number between 0 and `MaxGNo`, tested as a 32-bit float.
     bool IsChoosable(std::string_view text) const;
-    /// Starts the deal, or complains and returns false. `accepted` runs between the two.
-    bool ChooseNumber(const std::string& game, const std::string& text,
-                      const std::function<void()>& accepted = {});
+    /// The same, with a complaint when it doesn't.
+    bool AcceptNumber(const std::string& text);
     /// Keeps the running game's deal as a favorite, and says so.
     void AddFavorite();
 
-    /// Empties the recent list after a question; false when it was kept.
-    bool ClearRecentGames();
+    /// Empties the recent list, and says so. To be asked before: `kClearRecentQuestion`.
+    void ClearRecentGames();
     // Results.
-    /// Deletes the score files of all listed players after a question. The list of this run stays.
+    /// Deletes the score files of all listed players, and says so; the list of this run stays. To
+    /// be asked before: `kClearStatQuestion`.
     void ClearStat();
-    /// Writes the report over all results to a file that the user chooses, and says so. Silent when
-    /// none is chosen or it can't be written. Closes the score list.
-    void ExportStat();
+    /// Writes the report over all results to a file, and says so. Silent when it can't be written.
+    /// Closes the score list.
+    void ExportStat(const ChosenFile& file);
 
     // Players.
     /// Whether there is room for one more; says so if not.
@@ -101,7 +118,8 @@ public:
     /// "OK" of the input box: adds a player, or renames `oldName` unless that is empty. False, with
     /// the reason told, when the box has to stay open.
     bool EnterPlayer(const std::string& oldName, const std::string& newName);
-    /// Deletes a player other than the current one, with all results, after a question.
+    /// Deletes a player other than the current one, with all results. To be asked before:
+    /// `kDeletePlayerQuestion`.
     bool DeletePlayer(const std::string& name);
 
     // Timer ticks.
@@ -133,25 +151,24 @@ public:
     Favorites favorites;
     Gestures& gestures() { return gestures_; }
     const cArray& array() const { return array_; }
-    const cTrans& trans() const { return *trans_; }
+    const cTrans& trans() const { return trans_; }
     /// Called before each card's move, for those who follow along.
     std::function<void(const CardMove&)> onMove;
+    /// Called in the move that wins a game, after all that it changes.
+    std::function<void()> onWon;
     /// Stands for the catalogue: fills `games` for a name. Tests put definitions of their own here.
     std::function<void(cGames&, const std::string&)> selectGame;
 
 private:
-    bool GameRunning() const override { return data.GameRunning; }
+    bool Playing() const override { return data.Playing(); }
     void MoveBegins(const CardMove& move) override;
-    void SaveTrans(const CardMove& move) override { trans_->SaveTrans(move); }
+    void SaveTrans(const CardMove& move) override { trans_.SaveTrans(move); }
     void AutoPlay() override;
     void CheckWon() override;
 
-    struct GameRequest {
-        std::string name;
-        GameNumber number;
-    };
-
-    void Begin(const GameRequest& request);
+    void ClearTable();
+    /// The stock's mark in games with a redeal: the stop sign once nothing is left to turn over.
+    void ShowRedealMark();
     bool RenamePlayer(const std::string& oldName, const std::string& newName);
     void EndReplay();
 
@@ -159,13 +176,11 @@ private:
     Generator generator_;
     Generator numbers_;  ///< draws game numbers; a deal under way must not be disturbed
     cArray array_;
-    std::shared_ptr<cTrans> trans_;
+    cTrans trans_;
     Playfield field_;
     Gestures gestures_;
     bool dealing_ = false;
-    bool dealAbandoned_ = false;
     std::string caption_{kProductName};
-    std::optional<GameRequest> nextGame_;  ///< asked for during a deal
     bool forwardOn_ = false;
     bool backwardOn_ = false;
     bool stopEnabled_ = false;

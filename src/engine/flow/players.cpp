@@ -7,13 +7,13 @@ namespace varnello {
 
 bool Engine::MayAddPlayer() {
     if (data.TotalPlayers() < kMaxPlayers) return true;
-    desktop_.dialogs.Inform("Maximum 20 Players Only!");
+    desktop_.messages.Inform("Maximum 20 Players Only!");
     return false;
 }
 
 bool Engine::EnterPlayer(const std::string& oldName, const std::string& newName) {
     if (!IsPlayerName(newName)) {
-        desktop_.dialogs.Refuse("Please Enter a Valid Name");
+        desktop_.messages.Refuse("Please Enter a Valid Name");
         return false;
     }
     std::error_code ignored;
@@ -21,7 +21,7 @@ bool Engine::EnterPlayer(const std::string& oldName, const std::string& newName)
     const bool taken = data.FindPlayer(newName) != 0 ||
                        (renames && std::filesystem::exists(ScorePath(data, newName), ignored));
     if (taken) {
-        desktop_.dialogs.Refuse("Player Exists !");
+        desktop_.messages.Refuse("Player Exists !");
         return false;
     }
     return renames ? RenamePlayer(oldName, newName) : data.AddPlayer(newName);
@@ -37,7 +37,7 @@ bool Engine::RenamePlayer(const std::string& oldName, const std::string& newName
         std::filesystem::rename(file, ScorePath(data, newName), error);
         if (error) {
             const auto name = file.u8string();
-            desktop_.dialogs.Refuse(
+            desktop_.messages.Refuse(
                 "The player keeps the old name, because this file can't be "
                 "renamed:\n" +
                 std::string(name.begin(), name.end()));
@@ -51,7 +51,6 @@ bool Engine::RenamePlayer(const std::string& oldName, const std::string& newName
 
 bool Engine::DeletePlayer(const std::string& name) {
     if (name == data.CurPlayer()) return false;
-    if (!desktop_.dialogs.AskToStop("Are you sure you want to delete this player")) return false;
     const std::int16_t slot = data.FindPlayer(name);
     if (slot == 0) return false;
     data.SetPlayer(slot, {}, false);

@@ -8,27 +8,21 @@
 namespace varnello {
 
 void Engine::ClearStat() {
-    if (!desktop_.dialogs.Ask("Are you sure you want to clear the Statistics, High Score and Log "
-                              "for all Players and all Games ?")) {
-        return;
-    }
     for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
         std::error_code ignored;
         std::filesystem::remove(ScorePath(data, data.GetPlayer(slot)), ignored);
     }
-    desktop_.dialogs.Inform("Statistics, High Score and Log have been Cleared.");
+    desktop_.messages.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
-void Engine::ExportStat() {
-    const auto chosen = desktop_.dialogs.AskForTextFile("Scoreboard");
-    if (!chosen || chosen->Path.empty()) return;
+void Engine::ExportStat(const ChosenFile& file) {
     score.OpenAllScore();
-    std::ofstream out(chosen->Path, std::ios::binary);
+    std::ofstream out(file.Path, std::ios::binary);
     WriteStat(out, score, data, Now(), dates());
     out.close();
     score.CloseScore();
     if (!out) return;
-    desktop_.dialogs.Inform("Statistics Successfully Exported to " + chosen->Name);
+    desktop_.messages.Inform("Statistics Successfully Exported to " + file.Name);
 }
 
 }  // namespace varnello

@@ -14,7 +14,8 @@ constexpr RecordField kDetails[] = {Number, Time, Moves, Score};
 
 ReportRow RunningRow(const Engine& engine, RecordFields fields) {
     const double number = engine.score.SesTop() + 1.0;
-    ReportRow row = RowOf(engine.score.CurrentGame(0), number, fields, engine.dates());
+    ReportRow row =
+        RowOf(engine.score.CurrentGame(Outcome::NotWon), number, fields, engine.dates());
     const auto status = std::find(fields.begin(), fields.end(), Status);
     if (status != fields.end()) {
         row[static_cast<std::size_t>(status - fields.begin())].Text = "Running";

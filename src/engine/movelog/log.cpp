@@ -12,13 +12,20 @@ constexpr std::size_t kBlock = 100;  // the log grows in blocks, so that a move 
 cTrans::cTrans(cArray& array, Table& table, cData& data)
     : array_(array), table_(table), data_(data), records_(kBlock + 1) {}
 
+void cTrans::Clear() {
+    transID_ = 0;
+    transTop_ = 0;
+    multiFlag_ = false;
+    records_.assign(kBlock + 1, {});
+}
+
 void cTrans::SaveTrans(const CardMove& move) {
     transTop_ = ++transID_;
     if (transID_ >= records_.size()) records_.resize(records_.size() + kBlock);
     At(transID_) = {.PicId = move.PicId,
                     .From = table_.Card(move.PicId).Loc,
                     .To = move.To,
-                    .mCards = move.mCards,
+                    .mCards = Narrow16(move.mCards),
                     .MoveKind = move.tMod,
                     .InGroup = multiFlag_};
 }

@@ -19,20 +19,23 @@ struct TransRec {
     bool InGroup = false;  ///< this record and the next belong to the same undo step
 };
 
-/// The moves of the running game, and undo and redo over them. A new game gets a new log.
+/// The moves of the running game, and undo and redo over them. A new game begins with an empty log.
 class cTrans {
 public:
     cTrans(cArray& array, Table& table, cData& data);
 
+    /// Forgets everything, for a new game.
+    void Clear();
     void SaveTrans(const CardMove& move);
 
     /// Takes back one undo step. `Speed` is the number of steps of a flight; above 4 the step has a
     /// sound. A step of several records sets it to 4 for the caller too. False at the log's start.
-    bool Undo(std::int16_t& Speed);
+    bool Undo(int& Speed);
     /// Repeats one undo step; false at the log's end.
-    bool Redo(std::int16_t& Speed);
-    void UndoAll(std::int16_t Speed);
-    void RedoAll(std::int16_t Speed);
+    bool Redo(int& Speed);
+    /// Both stop at a step that wins the game.
+    void UndoAll(int Speed);
+    void RedoAll(int Speed);
 
     /// Moves made and not undone; the game's move counter. Stays at the limit of 16 bits.
     std::int16_t GetTransID() const;
@@ -50,8 +53,8 @@ public:
     void EndMulti();
 
 private:
-    void UndoRecord(const TransRec& record, std::int16_t Speed);
-    void RedoRecord(const TransRec& record, std::int16_t Speed);
+    void UndoRecord(const TransRec& record, int Speed);
+    void RedoRecord(const TransRec& record, int Speed);
     TransRec& At(std::size_t index) { return records_[index]; }
 
     cArray& array_;

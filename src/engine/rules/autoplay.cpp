@@ -1,8 +1,5 @@
 #include "engine/rules/autoplay.h"
 
-#include <optional>
-
-#include "engine/common/rounding.h"
 #include "engine/rules/order.h"
 
 namespace varnello {
@@ -10,23 +7,20 @@ namespace {
 
 constexpr int kRunLength = 13;
 
-/// Plays the top card of each pile from 0 up; false when the game has ended meanwhile.
-bool PlayTops(const Playfield& field, Cell cell, int piles) {
-    const std::uint64_t serial = field.array.Serial();
+/// Plays the top card of each pile from 0 up.
+void PlayTops(const Playfield& field, Cell cell, int piles) {
     for (int pile = 0; pile < piles; ++pile) {
         if (field.array.GetTop(cell, pile) >= 0) {
             PlayToGoal(field, field.array.GetTopPicID(cell, pile));
         }
-        if (field.array.Serial() != serial) return false;
     }
-    return true;
 }
 
 void PlayCardsUp(const Playfield& field) {
     if (field.data.Get(keys::Autoplay) == 0 || field.games.DisAutoPlay()) return;
-    if (!PlayTops(field, Cell::Home, field.games.Piles(Cell::Home))) return;
-    if (!PlayTops(field, Cell::Res, field.games.Piles(Cell::Res))) return;
-    if (!PlayTops(field, Cell::Waste, 1)) return;
+    PlayTops(field, Cell::Home, field.games.Piles(Cell::Home));
+    PlayTops(field, Cell::Res, field.games.Piles(Cell::Res));
+    PlayTops(field, Cell::Waste, 1);
     if (field.games.StockType() == StockType::Open) PlayTops(field, Cell::Stock, 1);
 }
 
@@ -47,22 +41,19 @@ bool HasCompletedRun(const Playfield& field, int pile) {
 
 void TakeRunOff(const Playfield& field, int pile) {
     cArray& array = field.array;
-    const std::uint64_t serial = array.Serial();
-    std::int16_t goal = field.table.Card(array.GetTopPicID(Cell::Home, pile)).Suitpile;
-    if (field.games.GoalDiv() != 0) goal = Saturate16(goal % field.games.GoalDiv());
+    int goal = field.table.Card(array.GetTopPicID(Cell::Home, pile)).Suitpile;
+    if (field.games.GoalDiv() != 0) goal %= field.games.GoalDiv();
     const MultiStep step(field);
-    for (int i = 0; i < kRunLength && array.Serial() == serial; ++i) {
-        const Place to{Cell::Goal, goal, Saturate16(array.GetTop(Cell::Goal, goal) + 1)};
-        array.MoveCard(array.GetTopPicID(Cell::Home, pile), to, MoveKind::Play, 3, 0,
-                       FaceMode::Open);
+    for (int i = 0; i < kRunLength; ++i) {
+        array.MoveCard({.PicId = array.GetTopPicID(Cell::Home, pile),
+                        .To = {Cell::Goal, goal, array.GetTop(Cell::Goal, goal) + 1},
+                        .Speed = 3});
     }
 }
 
 void TakeRunsOff(const Playfield& field) {
-    const std::uint64_t serial = field.array.Serial();
     for (int pile = 0; pile < field.games.Piles(Cell::Home); ++pile) {
         if (HasCompletedRun(field, pile)) TakeRunOff(field, pile);
-        if (field.array.Serial() != serial) return;
     }
 }
 
@@ -71,15 +62,14 @@ void TakeRunsOff(const Playfield& field) {
 bool PlayToGoal(const Playfield& field, PicID id) {
     cArray& array = field.array;
     const KesCard& card = field.table.Card(id);
-    for (std::int16_t pile = 0; pile < field.games.Piles(Cell::Goal); ++pile) {
-        const std::int16_t top = array.GetTop(Cell::Goal, pile);
+    for (int pile = 0; pile < field.games.Piles(Cell::Goal); ++pile) {
+        const int top = array.GetTop(Cell::Goal, pile);
         const bool fits =
             top == -1 ? card.Num == field.games.GoalBase()
                       : FitsOrder(field.table.Card(array.GetTopPicID(Cell::Goal, pile)), card,
                                   field.games.Order(Cell::Goal, pile), field.games.AK(Cell::Goal));
         if (!fits) continue;
-        array.MoveCard(id, {Cell::Goal, pile, Saturate16(top + 1)}, MoveKind::Play, 3, 0,
-                       FaceMode::Open);
+        array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, top + 1}, .Speed = 3});
         // Heard only when the cards that followed have gone up as well.
         field.data.PlaySound(Sound::AutoPlay);
         return true;

@@ -10,26 +10,27 @@ namespace {
 std::int16_t SuitOf(SuitType type, int value) {
     switch (type) {
         case SuitType::One: return 0;
-        case SuitType::Two: return Saturate16(value % 52 / 26);
+        case SuitType::Two: return Narrow16(value % 52 / 26);
         case SuitType::Four: break;
     }
-    return Saturate16(value % 52 / 13);
+    return Narrow16(value % 52 / 13);
 }
 
-void ShowSlot(const Playfield& field, KesEmpty& slot, Place place, int picture) {
-    slot.Picture = Saturate16(picture);
-    slot.Left = field.array.GetCordX(place);
-    slot.Top = field.array.GetCordY(place);
-    slot.Visible = true;
+void ShowSlot(const Playfield& field, Cell cell, int pile, int picture) {
+    const Place place{cell, pile, 0};
+    field.table.Slot(cell, pile) = {.Picture = Narrow16(picture),
+                                    .Left = Narrow16(field.array.GetCordX(place)),
+                                    .Top = Narrow16(field.array.GetCordY(place)),
+                                    .Visible = true};
+    field.array.ShowSlot(cell, pile);
 }
 
-void ShowGoalSlot(const Playfield& field, std::int16_t pile, int mark) {
-    ShowSlot(field, field.table.PicRight[static_cast<std::size_t>(pile)], {Cell::Goal, pile, 0},
-             mark);
+void ShowGoalSlot(const Playfield& field, int pile, int mark) {
+    ShowSlot(field, Cell::Goal, pile, mark);
 }
 
-void PlaceOnGoal(const Playfield& field, PicID id, std::int16_t pile) {
-    field.array.MoveCard(id, {Cell::Goal, pile, 0}, MoveKind::Deal, 0, 0, FaceMode::Open);
+void PlaceOnGoal(const Playfield& field, PicID id, int pile) {
+    field.array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, 0}, .tMod = MoveKind::Deal});
 }
 
 /// The cards that start the foundations, but for `GoalType::FirstCards`.
@@ -37,7 +38,7 @@ void PlaceStartingCards(const Playfield& field) {
     cGames& games = field.games;
     const std::int16_t count = games.Cards(Cell::Goal);
     const auto type = games.GoalType();
-    std::int16_t placed = 0;  // of GoalType::FirstCard
+    int placed = 0;  // of GoalType::FirstCard
     for (PicID id = 0; id < games.TotalCards(); ++id) {
         const KesCard& card = field.table.Card(id);
         const bool lowerHalf = 2 * card.Suitpile < count;
@@ -60,7 +61,7 @@ void PlaceStartingCards(const Playfield& field) {
 
 void ShowGoalSlots(const Playfield& field) {
     const cGames& games = field.games;
-    for (std::int16_t pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
+    for (int pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
         switch (games.GoalType()) {
             case GoalType::WholeRuns: ShowGoalSlot(field, pile, kRunSlot); break;
             case GoalType::Aces:
@@ -82,7 +83,7 @@ void PlaceGoalCards(const Playfield& field) {
     if (count > 0) PlaceStartingCards(field);
     ShowGoalSlots(field);
     if (field.games.GoalType() != GoalType::FirstCards) return;
-    for (std::int16_t pile = 0; pile < count; ++pile) {
+    for (PicID pile = 0; pile < count; ++pile) {
         PlaceOnGoal(field, pile, pile);
         ShowGoalSlot(field, pile, field.table.Card(pile).Num);
     }
@@ -90,21 +91,18 @@ void PlaceGoalCards(const Playfield& field) {
 
 void ShowSlots(const Playfield& field) {
     cGames& games = field.games;
-    Table& table = field.table;
-    for (std::int16_t pile = 0; pile < games.Piles(Cell::Res); ++pile) {
-        ShowSlot(field, table.PicRes[static_cast<std::size_t>(pile)], {Cell::Res, pile, 0},
-                 kPlainSlot);
+    for (int pile = 0; pile < games.Piles(Cell::Res); ++pile) {
+        ShowSlot(field, Cell::Res, pile, kPlainSlot);
     }
     if (games.Tag() == Tag::Penguin) {
         const bool fromAce = games.GoalBase() == kAce;
-        games.EmptyNum(fromAce ? kKing : Saturate16(games.GoalBase() - 1));
+        games.EmptyNum(fromAce ? kKing : Narrow16(games.GoalBase() - 1));
     }
-    for (std::int16_t pile = 0; pile < games.Piles(Cell::Home); ++pile) {
-        ShowSlot(field, table.PicHome[static_cast<std::size_t>(pile)], {Cell::Home, pile, 0},
-                 games.EmptyNum() >= 0 ? games.EmptyNum() : kPlainSlot);
+    for (int pile = 0; pile < games.Piles(Cell::Home); ++pile) {
+        ShowSlot(field, Cell::Home, pile, games.EmptyNum() >= 0 ? games.EmptyNum() : kPlainSlot);
     }
     if (games.Piles(Cell::Waste) >= 1) {
-        ShowSlot(field, table.PicWaste[0], {Cell::Waste, 0, 0}, kPlainSlot);
+        ShowSlot(field, Cell::Waste, 0, kPlainSlot);
     }
 }
 
@@ -113,23 +111,27 @@ void FillStock(const Playfield& field) {
     cArray& array = field.array;
     const FaceMode face = games.StockType() == StockType::Open ? FaceMode::Open : FaceMode::Closed;
     if (games.StockNum() > StockNum::None) {
-        ShowSlot(field, field.table.PicStock[0], {Cell::Stock, 0, 0},
-                 kPlainSlot + static_cast<int>(games.StockNum()));
+        ShowSlot(field, Cell::Stock, 0, kPlainSlot + static_cast<int>(games.StockNum()));
     }
     if (games.Piles(Cell::Stock) < 1) return;
     for (PicID id = 0; id < games.TotalCards(); ++id) {
         const KesCard& card = field.table.Card(id);
         const bool stripped = games.StockType() == StockType::TwoSuits && card.Suit >= 2;
         if (card.Loc.Cell == Cell::Goal || stripped) continue;
-        const Place to{Cell::Stock, 0, Saturate16(array.GetTop(Cell::Stock, 0) + 1)};
-        array.MoveCard(id, to, MoveKind::Deal, 0, 0, face);
+        array.MoveCard({.PicId = id,
+                        .To = {Cell::Stock, 0, array.GetTop(Cell::Stock, 0) + 1},
+                        .tMod = MoveKind::Deal,
+                        .DFace = face});
     }
 }
 
 /// Deals the stock's top card.
 void DealTo(const Playfield& field, Cell cell, int pile, int pos, FaceMode face = FaceMode::Open) {
-    field.array.MoveCard(field.array.GetTopPicID(Cell::Stock, 0),
-                         {cell, Saturate16(pile), Saturate16(pos)}, MoveKind::Deal, 3, 0, face);
+    field.array.MoveCard({.PicId = field.array.GetTopPicID(Cell::Stock, 0),
+                          .To = {cell, pile, pos},
+                          .tMod = MoveKind::Deal,
+                          .Speed = 3,
+                          .DFace = face});
 }
 
 void FillWaste(const Playfield& field) {
@@ -213,8 +215,8 @@ void DealHome(const Playfield& field) {
 void SetCardValues(const Playfield& field) {
     for (PicID id = 0; id < field.games.TotalCards(); ++id) {
         const int value = field.array.GetRandom(id);
-        field.table.Card(id).SetValue(SuitOf(field.games.SuitType(), value), Saturate16(value % 13),
-                                      Saturate16(value / 13));
+        field.table.Card(id).SetValue(SuitOf(field.games.SuitType(), value), Narrow16(value % 13),
+                                      Narrow16(value / 13));
         field.table.BringToFront(id);
     }
 }

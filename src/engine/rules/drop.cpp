@@ -24,8 +24,8 @@ bool Gestures::HitCard(PicID id, const Place& place, bool wide) const {
 bool Gestures::DropOnTableau(PicID id, bool wide) {
     const cGames& games = field_.games;
     const KesCard& card = field_.table.Card(id);
-    for (std::int16_t pile = 0; pile < games.Piles(Cell::Home); ++pile) {
-        const std::int16_t top = field_.array.GetTop(Cell::Home, pile);
+    for (int pile = 0; pile < games.Piles(Cell::Home); ++pile) {
+        const int top = field_.array.GetTop(Cell::Home, pile);
         if (!HitCard(id, {Cell::Home, pile, top}, wide)) continue;
         bool accepted = false;
         if (top == -1) {
@@ -35,8 +35,8 @@ bool Gestures::DropOnTableau(PicID id, bool wide) {
                                  card, games.Order(Cell::Home, 0), games.AK(Cell::Home));
         }
         if (!accepted) continue;
-        field_.array.MoveCard(id, {Cell::Home, pile, Saturate16(top + 1)}, MoveKind::Play, 3,
-                              dragCount_, FaceMode::Open);
+        field_.array.MoveCard(
+            {.PicId = id, .To = {Cell::Home, pile, top + 1}, .Speed = 3, .mCards = dragCount_});
         return true;
     }
     return false;
@@ -44,12 +44,12 @@ bool Gestures::DropOnTableau(PicID id, bool wide) {
 
 bool Gestures::DropOnReserve(PicID id, bool wide) {
     if (dragCount_ != 0) return false;
-    for (std::int16_t pile = 0; pile < field_.games.Piles(Cell::Res); ++pile) {
+    for (int pile = 0; pile < field_.games.Piles(Cell::Res); ++pile) {
         const Place place{Cell::Res, pile, 0};
         if (field_.array.GetPicID(Cell::Res, pile, 0) != kNoCard || !HitCard(id, place, wide)) {
             continue;
         }
-        field_.array.MoveCard(id, place, MoveKind::Play, 3, 0, FaceMode::Open);
+        field_.array.MoveCard({.PicId = id, .To = place, .Speed = 3});
         return true;
     }
     return false;
@@ -59,9 +59,9 @@ bool Gestures::DropOnFoundation(PicID id, bool wide) {
     const cGames& games = field_.games;
     if (games.Tag() == Tag::Spider || dragCount_ != 0) return false;
     const KesCard& card = field_.table.Card(id);
-    for (std::int16_t pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
+    for (int pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
         if (!HitCard(id, {Cell::Goal, pile, 0}, wide)) continue;
-        const std::int16_t top = field_.array.GetTop(Cell::Goal, pile);
+        const int top = field_.array.GetTop(Cell::Goal, pile);
         bool accepted = false;
         if (top == -1) {
             accepted = card.Num == games.GoalBase();
@@ -70,8 +70,7 @@ bool Gestures::DropOnFoundation(PicID id, bool wide) {
                                  card, games.Order(Cell::Goal, pile), games.AK(Cell::Goal));
         }
         if (!accepted) continue;
-        field_.array.MoveCard(id, {Cell::Goal, pile, Saturate16(top + 1)}, MoveKind::Play, 3, 0,
-                              FaceMode::Open);
+        field_.array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, top + 1}, .Speed = 3});
         return true;
     }
     return false;

@@ -21,7 +21,7 @@ void Gestures::Reset() {
 }
 
 void Gestures::MouseDown(PicID id, double x, double y) {
-    if (!field_.data.GameRunning) return;
+    if (!field_.data.Playing()) return;
     Reset();
     downX_ = RoundTo16(x);
     downY_ = RoundTo16(y);
@@ -33,11 +33,11 @@ void Gestures::MouseDown(PicID id, double x, double y) {
 }
 
 void Gestures::MouseMove(PicID id, double x, double y) {
-    if (field_.data.GameRunning && dragging_ && StillHeld(id)) CardDrag(id, x, y);
+    if (field_.data.Playing() && dragging_ && StillHeld(id)) CardDrag(id, x, y);
 }
 
 void Gestures::MouseUp(PicID id) {
-    if (!field_.data.GameRunning || !dragging_) return;
+    if (!field_.data.Playing() || !dragging_) return;
     dragging_ = false;
     if (StillHeld(id)) {
         CardDrop(id);
@@ -48,7 +48,7 @@ void Gestures::MouseUp(PicID id) {
 }
 
 void Gestures::StockClick() {
-    if (field_.data.GameRunning && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
+    if (field_.data.Playing() && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
 }
 
 bool Gestures::StillHeld(PicID id) const {
@@ -62,14 +62,13 @@ bool Gestures::StillHeld(PicID id) const {
 void Gestures::Settle(PicID id) {
     const Place& at = field_.table.Card(id).Loc;
     if (at != heldAt_) return;  // the move that took it away has placed it
-    for (std::int16_t pos = at.Pos; pos <= field_.array.GetTop(at.Cell, at.Pile); ++pos) {
+    for (int pos = at.Pos; pos <= field_.array.GetTop(at.Cell, at.Pile); ++pos) {
         const PicID card = field_.array.GetPicID(at.Cell, at.Pile, pos);
         const Place place{at.Cell, at.Pile, pos};
         // Only closed cards below it count: an undo may have closed it and others on it.
-        const auto closed = std::min(field_.array.ClosedCards(at.Pile), pos);
-        field_.table.Card(card).MoveTo(field_.games.GetCordX(place, closed),
-                                       field_.games.GetCordY(place, closed));
-        field_.table.BringToFront(card);
+        const int closed = std::min(field_.array.ClosedCards(at.Pile), pos);
+        PutAt(card, field_.games.GetCordX(place, closed), field_.games.GetCordY(place, closed),
+              true);
     }
 }
 
@@ -99,14 +98,15 @@ void Gestures::CardDown(PicID id) {
 void Gestures::PickUpStack(PicID id) {
     const KesCard& card = field_.table.Card(id);
     const int top = field_.array.GetTop(Cell::Home, card.Loc.Pile);
-    dragCount_ = Saturate16(top - card.Loc.Pos);
+    dragCount_ = top - card.Loc.Pos;
     if (card.FaceMode == FaceMode::Closed || !field_.games.MultiMove()) return;
     if (!IsRun(field_, id, dragCount_)) return;
     if (HasStackLimit(field_.games.Tag()) && dragCount_ > MaxExtraCards(field_)) return;
     dragging_ = true;
     for (int i = 1; i <= dragCount_; ++i) {
-        field_.table.BringToFront(
-            field_.array.GetPicID(Cell::Home, card.Loc.Pile, card.Loc.Pos + i));
+        const PicID carried = field_.array.GetPicID(Cell::Home, card.Loc.Pile, card.Loc.Pos + i);
+        field_.table.BringToFront(carried);
+        field_.array.ShowCard(carried);
     }
 }
 
@@ -120,28 +120,32 @@ void Gestures::PressStockCard(PicID id) {
     }
 }
 
+void Gestures::PutAt(PicID id, double left, double top, bool bringToFront) {
+    field_.table.Card(id).MoveTo(left, top);
+    if (bringToFront) field_.table.BringToFront(id);
+    field_.array.ShowCard(id);
+}
+
 void Gestures::MoveCarried(PicID id, int left, int top, bool bringToFront) {
     const Place& at = field_.table.Card(id).Loc;
     const bool right = field_.games.FansRight();
     for (int i = 1; i <= dragCount_; ++i) {
         const PicID carried = field_.array.GetPicID(Cell::Home, at.Pile, at.Pos + i);
-        field_.table.Card(carried).MoveTo(Saturate16(right ? left + kFanRight * i : left),
-                                          Saturate16(right ? top : top + kFanDown * i));
-        if (bringToFront) field_.table.BringToFront(carried);
+        PutAt(carried, Saturate16(right ? left + kFanRight * i : left),
+              Saturate16(right ? top : top + kFanDown * i), bringToFront);
     }
 }
 
 void Gestures::CardDrag(PicID id, double x, double y) {
-    KesCard& card = field_.table.Card(id);
+    const KesCard& card = field_.table.Card(id);
     const std::int16_t left = RoundTo16(card.Left + x - downX_);
     const std::int16_t top = RoundTo16(card.Top + y - downY_);
-    card.MoveTo(left, top);
-    field_.table.BringToFront(id);
+    PutAt(id, left, top, true);
     MoveCarried(id, left, top, true);
 }
 
 void Gestures::CardBack(PicID id) {
-    field_.table.Card(id).MoveTo(startLeft_, startTop_);
+    PutAt(id, startLeft_, startTop_, false);
     MoveCarried(id, startLeft_, startTop_, false);
 }
 

@@ -40,6 +40,7 @@ private:
     void PickUpStack(PicID id);
     void PressStockCard(PicID id);
     bool IsTopCard(PicID id) const;
+    void PutAt(PicID id, double left, double top, bool bringToFront);
     void MoveCarried(PicID id, int left, int top, bool bringToFront);
     bool HitCard(PicID id, const Place& place, bool wide) const;
     bool DropOnTableau(PicID id, bool wide);
@@ -51,8 +52,8 @@ private:
     std::int16_t downY_ = 0;
     std::int16_t startLeft_ = 0;
     std::int16_t startTop_ = 0;
-    Place heldAt_;                ///< the card's place at the press
-    std::int16_t dragCount_ = 0;  ///< cards carried above the one taken
+    Place heldAt_;       ///< the card's place at the press
+    int dragCount_ = 0;  ///< cards carried above the one taken
     bool dragging_ = false;
 };
 

@@ -1,11 +1,10 @@
 #include "engine/rules/stacks.h"
 
-#include "engine/common/rounding.h"
 #include "engine/rules/order.h"
 
 namespace varnello {
 
-bool IsRun(const Playfield& field, PicID id, std::int16_t n) {
+bool IsRun(const Playfield& field, PicID id, int n) {
     const Place bottom = field.table.Card(id).Loc;
     const auto card = [&](int pos) -> const KesCard& {
         return field.table.Card(field.array.GetPicID(Cell::Home, bottom.Pile, pos));
@@ -19,18 +18,18 @@ bool IsRun(const Playfield& field, PicID id, std::int16_t n) {
     return true;
 }
 
-std::int16_t EmptyPiles(const Playfield& field, Cell cell) {
-    std::int16_t empty = 0;
+int EmptyPiles(const Playfield& field, Cell cell) {
+    int empty = 0;
     for (int pile = 0; pile < field.games.Piles(cell); ++pile) {
         if (field.array.GetTop(cell, pile) == -1) ++empty;
     }
     return empty;
 }
 
-std::int16_t MaxExtraCards(const Playfield& field) {
+int MaxExtraCards(const Playfield& field) {
     const int emptyPiles = EmptyPiles(field, Cell::Home);
     const int freeCells = EmptyPiles(field, Cell::Res);
-    return Saturate16((freeCells + 1) * emptyPiles + freeCells);
+    return (freeCells + 1) * emptyPiles + freeCells;
 }
 
 bool HasStackLimit(Tag tag) {

@@ -5,13 +5,13 @@
 namespace varnello {
 
 /// Whether a tableau card and the `n` cards above it form a group that can be carried.
-bool IsRun(const Playfield& field, PicID id, std::int16_t n);
+bool IsRun(const Playfield& field, PicID id, int n);
 
 /// Piles of the cell that hold no card.
-std::int16_t EmptyPiles(const Playfield& field, Cell cell);
+int EmptyPiles(const Playfield& field, Cell cell);
 
 /// How many cards may be carried above the one taken, in the families that have a limit.
-std::int16_t MaxExtraCards(const Playfield& field);
+int MaxExtraCards(const Playfield& field);
 
 /// Whether the count of free places limits the size of a carried group.
 bool HasStackLimit(Tag tag);

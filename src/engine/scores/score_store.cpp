@@ -32,25 +32,25 @@ ScoreList ReadScores(const std::filesystem::path& file, const std::string& playe
 cScore::cScore(cData& data, const Clock& clock, const DateForms& dates)
     : data_(data), clock_(clock), dates_(dates) {}
 
-ScoreRecord cScore::CurrentGame(std::int16_t Status) const {
+ScoreRecord cScore::CurrentGame(Outcome outcome) const {
     return {.Date = {},
             .Game = data_.CurGName(),
             .GameNo = data_.CurGNo,
             .Time = data_.CurTime,
             .Moves = data_.CurMoves,
             .Score = data_.CurScore,
-            .Status = Status,
+            .Status = static_cast<std::int16_t>(outcome),
             .Player = data_.CurPlayer()};
 }
 
-bool cScore::AddScore(std::int16_t Status) {
-    ScoreRecord record = CurrentGame(Status);
+bool cScore::AddScore(Outcome outcome) {
+    ScoreRecord record = CurrentGame(outcome);
     record.Date = DateText(clock_.Now());
     return AppendLine(ScorePath(data_, record.Player), ScoreLine(record));
 }
 
-void cScore::AddSesGame(std::int16_t Status) {
-    if (sesList_.size() < kMaxSesGames) sesList_.push_back(CurrentGame(Status));
+void cScore::AddSesGame(Outcome outcome) {
+    if (sesList_.size() < kMaxSesGames) sesList_.push_back(CurrentGame(outcome));
 }
 
 void cScore::OpenScore(const std::string& Player) {

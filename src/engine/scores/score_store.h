@@ -16,6 +16,9 @@ namespace varnello {
 
 inline constexpr std::int16_t kTopPlaces = 20;
 
+/// How a game ended: the status of its record.
+enum class Outcome : std::int16_t { NotWon = 0, Won = 1 };
+
 /// The finished games: files on disk, one a player, and the list of this run. A report opens the
 /// files into one list in memory, asks, and closes it; nothing derived from them is stored.
 class cScore {
@@ -23,9 +26,9 @@ public:
     cScore(cData& data, const Clock& clock, const DateForms& dates);
 
     /// Appends the current game to the current player's file. False when it can't be written.
-    bool AddScore(std::int16_t Status);
+    bool AddScore(Outcome outcome);
     /// Adds the current game to the list of this run.
-    void AddSesGame(std::int16_t Status);
+    void AddSesGame(Outcome outcome);
 
     /// Appends the player's games to the list; damaged lines are skipped.
     void OpenScore(const std::string& Player);
@@ -72,7 +75,7 @@ public:
     ScoreSummary SesSummary() const;
 
     /// The game on the table or the one last on it, as it would be booked now; without a date.
-    ScoreRecord CurrentGame(std::int16_t Status) const;
+    ScoreRecord CurrentGame(Outcome outcome) const;
 
 private:
     cData& data_;

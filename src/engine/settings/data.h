@@ -107,6 +107,9 @@ public:
     DateTime SesStartTime;
     DateTime GameStartTime;
     bool GameRunning = false;
+    bool GameWon = false;  ///< all cards are up, and the running game's result isn't booked yet
+    /// Whether the running game can still be played.
+    bool Playing() const { return GameRunning && !GameWon; }
     const std::string& CurGName() const { return curGName_; }
     /// Also makes it the game last started.
     void CurGName(std::string_view name);
