@@ -45,19 +45,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.sounds.heard, std::vector{Sound::CardUp});
     }
 
-    void ABuriedCardDoesntMove() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
-        const PicID card = fixture.engine().array().GetPicID(Cell::Home, 0, 2);
-        const KesCard before = fixture.Card(card);
-        const QPoint grip = fixture.At(before.Left + 500, before.Top + 100);
-        fixture.Press(grip);
-        fixture.Move(grip + QPoint(100, 100));
-        QCOMPARE(fixture.Card(card).Left, before.Left);
-        fixture.Release(grip + QPoint(100, 100));
-        QCOMPARE(fixture.Card(card).Loc, before.Loc);
-    }
-
     void OneGestureAtATime() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
@@ -83,18 +70,6 @@ private Q_SLOTS:
         QVERIFY(!fixture.engine().gestures().Dragging());
     }
 
-    void TheStockActsAtThePress() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Cascade");
-        const PicID card = fixture.Top(Cell::Stock, 0);
-        const PicID below = fixture.engine().array().GetPicID(Cell::Stock, 0, 15);
-        fixture.Press(fixture.CentreOf(card));
-        QCOMPARE(fixture.Card(card).Loc, (Place{Cell::Waste, 0, 0}));
-        QCOMPARE(fixture.Card(card).FaceMode, FaceMode::Open);
-        QCOMPARE(fixture.Card(below).FaceMode, FaceMode::Closed);
-        fixture.Release(fixture.CentreOf(below));
-    }
-
     void AClickOnTheStocksSlotTurnsTheWasteBack() {
         WindowFixture fixture;
         fixture.engine().selectGame = [](cGames& games, const std::string&) {
@@ -114,21 +89,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().array().GetTop(Cell::Stock, 0), -1);
         fixture.Release(at);
         QCOMPARE(fixture.engine().array().GetTop(Cell::Stock, 0), 16);
-    }
-
-    void ShowsTheCardWhereTheEngineHasIt() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
-        const PicID card = fixture.Top(Cell::Home, 0);
-        fixture.Drag(card, fixture.At(2980 + 532, 200 + 720));
-        const QImage now = fixture.window.table().grab().toImage();
-        const CardPictures pictures(1);
-        const CardPictures::Part face = pictures.Shown(fixture.Card(card), 531);
-        const QPoint corner = fixture.At(2980, 200);
-        QCOMPARE(now.pixelColor(corner + QPoint(20, 50)),
-                 face.sheet->pixelColor(face.rect.topLeft() + QPoint(20, 50)));
-        // Where it lay, the card below shows through.
-        QVERIFY(fixture.Card(fixture.Top(Cell::Home, 0)).Loc.Pos == 5);
     }
 };
 

@@ -51,8 +51,7 @@ TEST_F(ExampleGame, IsWon) {
         double top = 0;
         if (words >> command >> id >> left >> top && command == "drop") Drop(id, left, top);
     }
-    EXPECT_FALSE(engine.data.GameRunning);
-    EXPECT_EQ(engine.score.SesSummary().Won, 1);
+    EXPECT_EQ(engine.phase(), Phase::Won);
 }
 
 }  // namespace

@@ -44,16 +44,16 @@ void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const
 void MainMenu::BuildFile() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&File"));
     AddStart(menu, file_, 1, QStringLiteral("&New Game"), Qt::Key_F2, [this] { shell_.NewGame(); });
-    Add(menu, file_, 2, QStringLiteral("&Select Game"), Qt::Key_F3,
-        [this] { shell_.ShowSelect(); });
+    AddStart(menu, file_, 2, QStringLiteral("&Select Game"), Qt::Key_F3,
+             [this] { shell_.ShowSelect(); });
     menu->addSeparator();
     AddStart(menu, file_, 4, QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
              [this] { shell_.RestartGame(); });
     Add(menu, file_, 5, QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
         [this] { engine_.CloseGame(); });
     menu->addSeparator();
-    Add(menu, file_, 7, QStringLiteral("Select a Number"), Qt::SHIFT | Qt::Key_F2,
-        [this] { shell_.ShowChoose(); });
+    AddStart(menu, file_, 7, QStringLiteral("Select a Number"), Qt::SHIFT | Qt::Key_F2,
+             [this] { shell_.ShowChoose(); });
     menu->addSeparator();
     QMenu* recent = menu->addMenu(QStringLiteral("Recent Games"));
     file_[9] = recent->menuAction();
@@ -105,8 +105,8 @@ void MainMenu::BuildFavorites() {
     Add(menu, fav_, 2, QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
         [this] { shell_.ShowOrganizeFavorites(); });
     menu->addSeparator();
-    Add(menu, fav_, 4, QStringLiteral("&Play from Favorites"), Qt::CTRL | Qt::Key_P,
-        [this] { shell_.ShowPlayFavorites(); });
+    AddStart(menu, fav_, 4, QStringLiteral("&Play from Favorites"), Qt::CTRL | Qt::Key_P,
+             [this] { shell_.ShowPlayFavorites(); });
 }
 
 void MainMenu::BuildStatistics() {

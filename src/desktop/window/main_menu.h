@@ -75,7 +75,8 @@ private:
     template <std::size_t N, typename Action>
     void Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
              const QKeySequence& key, Action&& action);
-    /// The same for an item that begins a game: it takes the place of a deal that is in motion.
+    /// The same for an item that begins a game or chooses one: a deal in motion isn't finished for
+    /// it, but gives way to the next one.
     template <std::size_t N, typename Action>
     QAction* AddStart(QMenu* menu, std::array<QAction*, N>& items, int index,
                       const QString& caption, const QKeySequence& key, Action&& action);

@@ -77,8 +77,6 @@ void MainWindow::StartTimers() {
 }
 
 void MainWindow::OnMainTimer() {
-    menu_->UpdateMenus();
-    toolbar_->UpdateToolbar();
     setWindowTitle(ToQt(engine_->Caption()));
     Refresh();
 }
@@ -94,10 +92,8 @@ void MainWindow::ReplayTick(void (Engine::*tick)()) {
 
 void MainWindow::OnShown() {
     engine_->Shown();
-    menu_->UpdateMenus();
-    toolbar_->UpdateToolbar();
+    Refresh();
     if (const auto tick = std::exchange(waitingTick_, nullptr)) ReplayTick(tick);
-    AwaitFinish();
 }
 
 void MainWindow::AwaitFinish() {
@@ -126,8 +122,8 @@ bool MainWindow::FilterInput(QObject* watched, QEvent* event) {
                 event->accept();  // so that it isn't taken for a shortcut either
                 return true;
             }
-            // A command decides for itself what becomes of a deal.
-            if (!dealing || event->type() == QEvent::KeyPress) Settle();
+            // A command decides for itself what becomes of a deal, a dialog lets it go on.
+            if (!dealing || (event->type() == QEvent::KeyPress && isActiveWindow())) Settle();
             return false;
         }
         case QEvent::MouseButtonPress:
@@ -154,6 +150,8 @@ void MainWindow::OnReplayTimers() {
 }
 
 void MainWindow::Refresh() {
+    menu_->UpdateMenus();
+    toolbar_->UpdateToolbar();
     Q_ASSERT(motion_.Showing() || LooksSame(motion_.Scene(), engine_->table));
     OnReplayTimers();
     AwaitFinish();
