@@ -7,9 +7,15 @@
 #include <QVBoxLayout>
 
 #include "desktop/choosers/lists.h"
+#include "desktop/choosers/one_line_validator.h"
 #include "desktop/platform/text.h"
 
 namespace varnello {
+namespace {
+
+constexpr std::size_t kLongestNumber = 32767;  // characters
+
+}  // namespace
 
 NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
     : QDialog(parent),
@@ -21,6 +27,7 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
     FillGames(*games_, engine_.data, engine_.data.CurGName());
     FillPlayers(*players_, engine_.data);
     number_->setText(ToQt(engine_.RandomGNo().Shown()));
+    number_->setValidator(new OneLineValidator(number_, kLongestNumber));
 
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Game"), games_);
@@ -60,6 +67,7 @@ void NumberDialog::Select() {
         return accept();
     }
     number_->setText(QStringLiteral("0"));
+    number_->selectAll();  // so that typing replaces it
     number_->setFocus();
 }
 

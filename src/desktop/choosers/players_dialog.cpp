@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/choosers/one_line_validator.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 
@@ -109,11 +110,7 @@ NameDialog::NameDialog(Engine& engine, const QString& label, const std::string& 
     auto* caption = new QLabel(label);
     caption->setBuddy(Text1_);
     Text1_->setAccessibleName(label);
-    // Characters, and not the units of the toolkit's texts, are what counts.
-    connect(Text1_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        const QString cut = ToQt(CutPlayerName(text.toStdString()));
-        if (cut != text) Text1_->setText(cut);
-    });
+    Text1_->setValidator(new OneLineValidator(Text1_, kMaxPlayerName));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* all = new QVBoxLayout(this);

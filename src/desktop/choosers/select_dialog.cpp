@@ -14,6 +14,7 @@ namespace varnello {
 namespace {
 
 constexpr int kTreeWidth = 230;
+constexpr int kPlayersPoll = 250;  // milliseconds
 
 }  // namespace
 
@@ -67,9 +68,27 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     connect(play_, &QPushButton::clicked, this, &SelectDialog::Play);
     connect(rules_, &QPushButton::clicked, this, [this] { Q_EMIT RulesAsked(SelectedGame()); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(&Timer1_, &QTimer::timeout, this, &SelectDialog::FollowPlayers);
+    Timer1_.start(kPlayersPoll);
     ShowGame();
+    QWidget* const order[] = {tree_, players_, play_, cancel, rules_};
+    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
     play_->setDefault(true);
     tree_->setFocus();
+}
+
+void SelectDialog::FollowPlayers() {
+    QStringList listed;
+    for (std::int16_t slot = 1; slot <= engine_.data.TotalPlayers(); ++slot) {
+        listed << ToQt(engine_.data.GetPlayer(slot));
+    }
+    QStringList shown;
+    for (int i = 0; i < players_->count(); ++i) shown << players_->itemText(i);
+    if (listed == shown) return;
+    const QString selected = players_->currentText();
+    players_->clear();
+    FillPlayers(*players_, engine_.data);
+    if (listed.contains(selected)) players_->setCurrentText(selected);
 }
 
 void SelectDialog::FillTree() {
@@ -105,6 +124,7 @@ void SelectDialog::ShowGame() {
 void SelectDialog::Play() {
     const QString game = SelectedGame();
     if (game.isEmpty()) return;
+    FollowPlayers();
     const GameChoice choice{.Game = game.toStdString(),
                             .Player = players_->currentText().toStdString()};
     accept();

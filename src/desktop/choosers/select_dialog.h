@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "desktop/choosers/game_choice.h"
@@ -32,6 +33,8 @@ Q_SIGNALS:
 
 private:
     void FillTree();
+    /// Shows the players as they are listed now; another window or another copy may change them.
+    void FollowPlayers();
     void ShowGame();
     void Play();
     /// The selected game's name; empty while the root is selected.
@@ -44,6 +47,7 @@ private:
     QLabel* preview_;
     QPushButton* play_;
     QPushButton* rules_;
+    QTimer Timer1_;
 };
 
 }  // namespace varnello

@@ -2,7 +2,9 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QListWidget>
+#include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -15,6 +17,24 @@ namespace {
 
 constexpr int kListWidth = 247;  // pixels
 constexpr QSize kChartSize(330, 240);
+
+/// A button that shows when it has the focus, and that Enter presses as Space does.
+class CommandButton : public QToolButton {
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        if (!hasFocus()) return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (!enter) return QToolButton::keyPressEvent(event);
+        if (!event->isAutoRepeat()) click();
+    }
+};
 
 }  // namespace
 
@@ -30,7 +50,7 @@ QWidget* FinishDialog::MakeToolbar() {
     auto* row = new QHBoxLayout(strip);
     row->setContentsMargins(0, 0, 0, 0);
     const auto button = [&](const char* icon, const char* caption) {
-        auto* made = new QToolButton;
+        auto* made = new CommandButton;
         made->setIcon(SmallIcon(QString::fromLatin1(icon)));
         made->setText(QString::fromLatin1(caption));
         made->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -40,13 +60,15 @@ QWidget* FinishDialog::MakeToolbar() {
         row->addWidget(made);
         return made;
     };
-    const auto choose = [&](QToolButton* made, FinishChoice choice) {
+    const auto choose = [&](CommandButton* made, FinishChoice choice) {
         connect(made, &QToolButton::clicked, this, [this, choice] {
             choice_ = choice;
             accept();
         });
     };
-    choose(button("new", "New Game"), FinishChoice::NewGame);
+    CommandButton* first = button("new", "New Game");
+    choose(first, FinishChoice::NewGame);
+    first->setFocus();
     choose(button("select", "Select Game"), FinishChoice::SelectGame);
     choose(button("restart", "Restart Game"), FinishChoice::RestartGame);
     connect(button("statistics", "Statistics"), &QToolButton::clicked, this,

@@ -34,6 +34,7 @@ GameFigures RunningFigures(const cData& data) {
 
 QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
     auto* label = new QLabel(ToQt(text));
+    label->setTextFormat(Qt::PlainText);
     rows->addWidget(label);
     return label;
 }

@@ -77,7 +77,9 @@ void MainWindow::StartTimers() {
 }
 
 void MainWindow::OnMainTimer() {
-    setWindowTitle(ToQt(engine_->Caption()));
+    // A name may hold what the toolkit takes for the mark of a changed document.
+    setWindowTitle(
+        ToQt(engine_->Caption()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     Refresh();
 }
 
@@ -168,6 +170,11 @@ void MainWindow::LayoutMain() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centralWidget() && event->type() == QEvent::Resize) LayoutMain();
+    // A dialog or a menu opens; from now on the table gets no release.
+    const auto* widget = event->type() == QEvent::Show ? qobject_cast<QWidget*>(watched) : nullptr;
+    if (widget && widget->isWindow() && widget->windowType() != Qt::ToolTip && table_) {
+        table_->CancelGesture();
+    }
     if ((motion_.Showing() || breath_.isActive()) && FilterInput(watched, event)) return true;
     return QMainWindow::eventFilter(watched, event);
 }
@@ -204,7 +211,8 @@ void MainWindow::RecentGame(int index) {
 
 void MainWindow::Play(const GameChoice& choice) {
     BeforeStart();
-    if (choice.Player) engine_->data.CurPlayer(*choice.Player);
+    if (choice.Player && engine_->data.FindPlayer(*choice.Player) != 0)
+        engine_->data.CurPlayer(*choice.Player);
     engine_->StartGame(choice.Game, choice.Number ? *choice.Number : engine_->RandomGNo());
     Refresh();
 }

@@ -151,7 +151,7 @@ void TableView::mousePressEvent(QMouseEvent* event) {
 }
 
 void TableView::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons() == Qt::NoButton) return EndGesture();  // the release was lost
+    if (event->buttons() == Qt::NoButton) return CancelGesture();  // the release was lost
     if (pressed_ == kNoCard) return;
     if (engine_.gestures().Dragging()) motion_.Finish();
     const QPointF at = ToTwips(event->position());
@@ -164,16 +164,34 @@ void TableView::mouseReleaseEvent(QMouseEvent* event) {
     if (stockPressed_ && OnStockSlot(ToTwips(event->position()))) {
         engine_.gestures().StockClick();
     }
-    EndGesture();
+    const PicID id = TakePressed();
+    if (engine_.gestures().Dragging()) motion_.Finish();
+    if (id != kNoCard) engine_.gestures().MouseUp(id);
 }
 
-void TableView::EndGesture() {
-    const PicID id = std::exchange(pressed_, kNoCard);
+PicID TableView::TakePressed() {
     pressedButton_ = Qt::NoButton;
     setMouseTracking(false);
     stockPressed_ = false;
-    if (engine_.gestures().Dragging()) motion_.Finish();
-    if (id != kNoCard) engine_.gestures().MouseUp(id);
+    return std::exchange(pressed_, kNoCard);
+}
+
+void TableView::CancelGesture() {
+    const PicID id = TakePressed();
+    if (!engine_.gestures().Dragging() || id == kNoCard) return;
+    motion_.Finish();
+    engine_.gestures().PutBack(id);
+}
+
+bool TableView::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Hide:
+        case QEvent::UngrabMouse:
+        case QEvent::WindowDeactivate:
+        case QEvent::WindowBlocked: CancelGesture(); break;
+        default: break;
+    }
+    return QWidget::event(event);
 }
 
 }  // namespace varnello

@@ -30,7 +30,11 @@ public:
 
     QSize sizeHint() const override;
 
+    /// The release of a button can't come any more: what is carried goes back.
+    void CancelGesture();
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -59,7 +63,8 @@ private:
     /// Shows all that has changed by then at the next turn of the event loop.
     void SyncSoon();
     bool OnStockSlot(const QPointF& twips) const;
-    void EndGesture();
+    /// Forgets the press; the card that was under it, or none.
+    PicID TakePressed();
 
     Motion& motion_;
     Engine& engine_;

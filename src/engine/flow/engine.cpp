@@ -30,7 +30,7 @@ void Engine::InitMain() {
     std::filesystem::create_directories(data.AppDir(), ignored);
     data.PackPlayers();  // settings edited by hand may have gaps, or nobody as the current player
     if (data.TotalPlayers() == 0) data.SetPlayer(1, "Player1", true);
-    if (data.CurPlayer().empty()) data.CurPlayer(data.GetPlayer(1));
+    data.CurPlayer(std::string(data.CurPlayer()));
 }
 
 double NumberLimit(std::int16_t rangeIndex) {

@@ -12,7 +12,7 @@ bool Engine::MayAddPlayer() {
 }
 
 bool Engine::EnterPlayer(const std::string& oldName, const std::string& newName) {
-    if (!IsPlayerName(newName)) {
+    if (!IsNewPlayerName(newName)) {
         desktop_.messages.Refuse("Please Enter a Valid Name");
         return false;
     }

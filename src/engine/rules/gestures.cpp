@@ -47,6 +47,17 @@ void Gestures::MouseUp(PicID id) {
     field_.data.PlaySound(Sound::CardUp);
 }
 
+void Gestures::PutBack(PicID id) {
+    if (!field_.data.Playing() || !dragging_) return;
+    dragging_ = false;
+    if (StillHeld(id)) {
+        CardBack(id);
+    } else {
+        Settle(id);
+    }
+    field_.data.PlaySound(Sound::CardUp);
+}
+
 void Gestures::StockClick() {
     if (field_.data.Playing() && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
 }

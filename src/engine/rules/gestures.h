@@ -15,6 +15,8 @@ public:
     void MouseDown(PicID id, double x, double y);
     void MouseMove(PicID id, double x, double y);
     void MouseUp(PicID id);
+    /// The release can't come any more: the cards go back.
+    void PutBack(PicID id);
     /// A click on the stock's slot.
     void StockClick();
 

@@ -85,6 +85,7 @@ public:
     std::int16_t TotalPlayers() const;
     std::string GetPlayer(std::int16_t slot) const;
     void SetPlayer(std::int16_t slot, std::string_view name, bool makeCurrent);
+    /// Always a listed player, the first when the stored name isn't listed; empty without any.
     std::string CurPlayer() const;
     void CurPlayer(std::string_view name);
     /// The slot that holds exactly this name, or 0.
@@ -131,6 +132,10 @@ private:
 
 /// A name that a player may have: not blank, and fit to be a file's name everywhere.
 bool IsPlayerName(std::string_view name);
+
+/// A name that may be entered: also without blanks of other kinds alone, and without anything that
+/// can't be seen.
+bool IsNewPlayerName(std::string_view name);
 
 /// The name cut to the characters that a player's name may have.
 std::string CutPlayerName(std::string_view name);

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "engine/common/number_text.h"
+#include "engine/common/seen_text.h"
 #include "engine/common/utf8.h"
 #include "engine/settings/data.h"
 
@@ -32,7 +33,16 @@ void cData::SetPlayer(std::int16_t slot, std::string_view name, bool makeCurrent
     if (makeCurrent) CurPlayer(name);
 }
 
-std::string cData::CurPlayer() const { return GetPlayer(kCurrentSlot); }
+// Whoever plays is somebody in the list, whatever stands in settings edited by hand.
+std::string cData::CurPlayer() const {
+    std::string name = GetPlayer(kCurrentSlot);
+    if (!name.empty() && FindPlayer(name) != 0) return name;
+    for (std::int16_t slot = 1; slot <= kMaxPlayers; ++slot) {
+        name = GetPlayer(slot);
+        if (!name.empty()) break;
+    }
+    return name;
+}
 
 void cData::CurPlayer(std::string_view name) { Slot(kUsersSection, kCurrentSlot, name); }
 
@@ -62,6 +72,8 @@ void cData::PackPlayers() {
         ++next;
     }
 }
+
+bool IsNewPlayerName(std::string_view name) { return IsPlayerName(name) && IsSeenText(name); }
 
 bool IsPlayerName(std::string_view name) {
     const auto unfit = [](char c) {
