@@ -1,9 +1,11 @@
 #include <QApplication>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/platform/session_end.h"
 #include "desktop/platform/settings_store.h"
 #include "desktop/platform/sounds.h"
 #include "desktop/platform/system.h"
@@ -14,6 +16,7 @@
 namespace {
 
 QtMessageHandler usualHandler = nullptr;
+std::unique_ptr<varnello::MainWindow>* running = nullptr;  ///< while the event loop runs
 
 /// No sound device means silence, so what the sound library says about it isn't passed on.
 void AfterScreen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
@@ -65,6 +68,17 @@ int main(int argc, char** argv) {
     WaveSounds sounds;
     std::unique_ptr<MainWindow> window;
 
+    SessionEnd sessionEnd;
+    QObject::connect(&sessionEnd, &SessionEnd::Asked, &application, [&] {
+        if (window) return window->EndSession();
+        QApplication::exit(0);
+    });
+    // The toolkit leaves by `exit` when the display goes away; what can be booked is booked then.
+    running = &window;
+    std::atexit([] {
+        if (running && *running) (*running)->engine().Leave();
+    });
+
     auto splash = std::make_unique<Splash>();
     QObject::connect(
         splash.get(), &Splash::Ended, &application,
@@ -79,5 +93,7 @@ int main(int argc, char** argv) {
         },
         Qt::QueuedConnection);
     splash->show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    running = nullptr;
+    return status;
 }

@@ -74,6 +74,16 @@ public:
     virtual void Play(Sound event) = 0;
 };
 
+/// What has to be on the disk and not only in a cache.
+class Disk {
+public:
+    virtual ~Disk() = default;
+    /// The file's contents, or the names in a folder, are safe from a power cut when it returns.
+    virtual void Flush(const std::filesystem::path&) const {}
+};
+
+inline const Disk kNoDisk;
+
 /// A file that the user chose to write to.
 struct ChosenFile {
     std::filesystem::path Path;
@@ -89,6 +99,8 @@ public:
     virtual void Inform(const std::string& text) = 0;
     /// The same with a stop sign.
     virtual void Refuse(const std::string& text) = 0;
+    /// The same with the sign of a warning: something was kept or lost that shouldn't have been.
+    virtual void Warn(const std::string& text) = 0;
 };
 
 struct Desktop {
@@ -99,6 +111,7 @@ struct Desktop {
     Messages& messages;
     std::filesystem::path dataFolder;  ///< `AppDir`
     const DateForms& dates = kFileDateForms;
+    const Disk& disk = kNoDisk;
 };
 
 }  // namespace varnello

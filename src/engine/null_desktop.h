@@ -39,6 +39,7 @@ class NoMessages : public Messages {
 public:
     void Inform(const std::string&) override {}
     void Refuse(const std::string&) override {}
+    void Warn(const std::string&) override {}
 };
 
 class StillClock : public Clock {

@@ -41,6 +41,7 @@ public:
     explicit PrintedMessages(std::ostream& out) : out_(out) {}
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override { Inform(text); }
+    void Warn(const std::string& text) override { Inform(text); }
 
 private:
     std::ostream& out_;

@@ -134,6 +134,27 @@ TEST_F(Players, WhoseNamesCanBeNoFileCountAsNoneInEditedSettings) {
     }
 }
 
+TEST_F(Players, HaveNamesThatCanBeSeen) {
+    const std::pair<const char*, bool> names[] = {
+        {"Ann", true},          {"Zo\u00eb", true},    {"a & b", true},
+        {"<h1>Bob", true},      {"[*]", true},         {"%1", true},
+        {"\u738b\u4e94", true}, {"a\u00a0b", true},    {"", false},
+        {" ", false},           {"\u00a0", false},     {"\u2003\u3000", false},
+        {"a\u200bb", false},    {"\u202egnaw", false}, {"a\u0007", false},
+        {"a\u0085", false},     {"\xff", false},       {"\xc3", false},
+        {"a/b", false},         {"\u3164", false},     {"\U000E0041", false}};
+    for (const auto& [name, fits] : names) EXPECT_EQ(IsNewPlayerName(name), fits) << name;
+}
+
+TEST_F(Players, CurrentOneIsAlwaysListed) {
+    data.CurPlayer("Nobody");
+    EXPECT_EQ(data.CurPlayer(), "Player1");
+    EXPECT_FALSE(engine.DeletePlayer("Player1"));
+    Start("Freecell");
+    engine.CloseGame();
+    EXPECT_TRUE(std::filesystem::exists(File("Player1.sre")));
+}
+
 TEST_F(Players, LeaveNothingBehindButTheirOrder) {
     for (const char* name : {"B", "C", "D"}) engine.EnterPlayer("", name);
     for (const char* file : {"B.sre", "C.sre", "D.sre"}) WriteFile(File(file), "x");

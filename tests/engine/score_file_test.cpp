@@ -114,6 +114,26 @@ TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
     EXPECT_NE(heard.find(ScoreFile().string()), std::string::npos) << heard;
     engine.score.OpenAllScore();
     EXPECT_EQ(engine.score.ScoreTop(), 0);
+    Start("Freecell", 6);
+    std::filesystem::remove_all(folder.Path() / "data");
+    Heard();
+    engine.CloseGame();
+    EXPECT_EQ(Heard(), "") << "the folder is made again";
+    engine.score.OpenAllScore();
+    ASSERT_EQ(engine.score.ScoreTop(), 2) << "what couldn't be written was kept";
+    EXPECT_EQ(engine.score.GetScore(1).GameNo, GameNumber::Number(5));
+}
+
+TEST_F(ScoreFiles, LineThatLacksItsEndAloneIsFinishedAndNotDoubled) {
+    const std::filesystem::path file = folder.Path() / "lines";
+    const std::pair<std::string, std::string> ends[] = {
+        {"", "ab\r\n"},         {"x\n", "x\nab\r\n"},     {"ab", "ab\r\n"},
+        {"x\nab", "x\nab\r\n"}, {"cab", "cab\r\nab\r\n"}, {"x\na", "x\na\r\nab\r\n"}};
+    for (const auto& [before, after] : ends) {
+        WriteFile(file, before);
+        EXPECT_TRUE(AppendLine(file, "ab"));
+        EXPECT_EQ(ReadFile(file), after);
+    }
 }
 
 TEST_F(ScoreFiles, ListOfThisRunHoldsEveryEndedGame) {

@@ -14,4 +14,5 @@ rm -r "$data"
 games 3 3 >&3
 exec 3>&-
 wait "$!" || die "the program failed"
-refused "$folder/out" 1 || die "the lost result wasn't reported"
+[ "$(booked "$scores")" = 3 ] || die "the folder wasn't made again"
+refused "$folder/out" 0 || die "a result that was written was reported as lost"

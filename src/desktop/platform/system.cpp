@@ -1,5 +1,8 @@
 #include "desktop/platform/system.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QDateTime>
 #include <QStandardPaths>
 
@@ -25,6 +28,17 @@ double SystemClock::Timer() const {
     // 1970 have them in common for a quarter of an hour.
     constexpr qint64 kFirst = 1 << 20;
     return static_cast<double>(kFirst + QDateTime::currentMSecsSinceEpoch() % kFirst);
+}
+
+void SystemDisk::Flush(const std::filesystem::path& path) const {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) return;
+    if (std::filesystem::is_directory(path)) {
+        fsync(file);
+    } else {
+        fdatasync(file);
+    }
+    close(file);
 }
 
 std::filesystem::path DataFolder() {

@@ -13,6 +13,12 @@ public:
     double Timer() const override;
 };
 
+/// The disk that the file system keeps.
+class SystemDisk : public Disk {
+public:
+    void Flush(const std::filesystem::path& path) const override;
+};
+
 /// `AppDir`: the folder "Varnello" in the user's data folder.
 std::filesystem::path DataFolder();
 

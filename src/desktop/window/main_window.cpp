@@ -33,8 +33,8 @@ constexpr int kTryAgain = 50;
 }  // namespace
 
 MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
-    engine_ = std::make_unique<Engine>(
-        Desktop{system.settings, system.clock, motion_, motion_, *this, system.dataFolder, dates_});
+    engine_ = std::make_unique<Engine>(Desktop{system.settings, system.clock, motion_, motion_,
+                                               *this, system.dataFolder, dates_, disk_});
     motion_.SetCardSpeed([this] { return engine_->data.Get(keys::CardSpeed); });
     motion_.SetFrameRate(screen()->refreshRate());
     connect(&motion_, &Motion::Shown, this, &MainWindow::OnShown);
@@ -180,9 +180,16 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    engine_->LeaveGame();
+    engine_->Leave();
     ShowMessages();  // of a result that couldn't be written
     event->accept();
+    Q_EMIT Closed();
+}
+
+void MainWindow::EndSession() {
+    engine_->Leave();
+    for (const Message& message : messages_) qWarning("%s", message.text.c_str());
+    messages_.clear();
     Q_EMIT Closed();
 }
 
@@ -294,13 +301,14 @@ QWidget* MainWindow::Front() {
     return modal ? modal : this;
 }
 
-void MainWindow::Inform(const std::string& text) {
-    messages_.push_back({QMessageBox::Information, text});
-    QMetaObject::invokeMethod(this, &MainWindow::ShowMessages, Qt::QueuedConnection);
-}
+void MainWindow::Inform(const std::string& text) { Tell(QMessageBox::Information, text); }
 
-void MainWindow::Refuse(const std::string& text) {
-    messages_.push_back({QMessageBox::Critical, text});
+void MainWindow::Refuse(const std::string& text) { Tell(QMessageBox::Critical, text); }
+
+void MainWindow::Warn(const std::string& text) { Tell(QMessageBox::Warning, text); }
+
+void MainWindow::Tell(QMessageBox::Icon icon, const std::string& text) {
+    messages_.push_back({icon, text});
     QMetaObject::invokeMethod(this, &MainWindow::ShowMessages, Qt::QueuedConnection);
 }
 

@@ -12,6 +12,7 @@
 #include "desktop/choosers/select_dialog.h"
 #include "desktop/help/help_window.h"
 #include "desktop/platform/dates.h"
+#include "desktop/platform/system.h"
 #include "desktop/window/main_menu.h"
 #include "desktop/window/motion.h"
 #include "desktop/window/table_view.h"
@@ -41,6 +42,9 @@ public:
     /// The selector, freshly loaded and modeless over the window. It goes when a game begins.
     void ShowSelect() override { OpenSelect(Qt::NonModal); }
 
+    /// What the close box does, without a word: the session ends and nobody would read it.
+    void EndSession();
+
     Engine& engine() { return *engine_; }
     TableView& table() { return *table_; }
     Motion& motion() { return motion_; }
@@ -52,6 +56,7 @@ public:
 
     void Inform(const std::string& text) override;
     void Refuse(const std::string& text) override;
+    void Warn(const std::string& text) override;
 
 Q_SIGNALS:
     /// The window is gone and with it the program.
@@ -62,6 +67,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Tell(QMessageBox::Icon icon, const std::string& text);
+
     struct Message {
         QMessageBox::Icon icon;
         std::string text;
@@ -113,6 +120,7 @@ private:
     void StartTimers();
 
     LocaleDates dates_;
+    SystemDisk disk_;
     Motion motion_;
     std::unique_ptr<Engine> engine_;
     TableView* table_ = nullptr;

@@ -2,23 +2,39 @@
 
 #include <algorithm>
 #include <fstream>
+#include <system_error>
 
 namespace varnello {
 namespace {
 
 constexpr std::size_t kBlock = 65536;  // bytes read at a time
 
-bool EndsInsideLine(const std::filesystem::path& file) {
+constexpr std::string_view kLineEnd = "\r\n";
+
+/// What has to be written so that `line` stands in the file as one of its own.
+std::string Continuation(const std::filesystem::path& file, std::string_view line) {
+    const std::string whole = std::string(line).append(kLineEnd);
+    std::error_code none;
+    const std::uintmax_t size = std::filesystem::file_size(file, none);
+    if (none || size == 0) return whole;
+    // As much of the end as tells whether the line before it is finished, and whether it is this
+    // very one, whose end didn't make it onto a full disk.
+    std::string end(static_cast<std::size_t>(std::min<std::uintmax_t>(size, line.size() + 1)), ' ');
     std::ifstream in(file, std::ios::binary);
-    if (!in.seekg(-1, std::ios::end)) return false;
-    return in.get() != '\n';
+    in.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
+    if (!in.read(end.data(), static_cast<std::streamsize>(end.size()))) {
+        return std::string(kLineEnd).append(whole);  // it can't be looked at
+    }
+    if (end.ends_with('\n')) return whole;
+    const bool alone = end.size() == line.size() || end.front() == '\n';
+    if (alone && end.ends_with(line)) return std::string(kLineEnd);
+    return std::string(kLineEnd).append(whole);
 }
 
 }  // namespace
 
 bool AppendLine(const std::filesystem::path& file, std::string_view line) {
-    std::string text = EndsInsideLine(file) ? "\r\n" : "";
-    text.append(line).append("\r\n");
+    const std::string text = Continuation(file, line);
     std::ofstream out(file, std::ios::binary | std::ios::app);
     out.write(text.data(), static_cast<std::streamsize>(text.size()));
     out.close();

@@ -9,8 +9,9 @@
 namespace varnello {
 
 /// Appends `line` and CR LF in one write, so that two programs that append at once don't mix their
-/// lines. A file whose last line was left unfinished gets its line end first. False when the file
-/// can't be written; what was on disk stays as it was.
+/// lines. A file whose last line was left unfinished, or whose end can't be looked at, gets a line
+/// end first; the unfinished line may be this very one. False when the file can't be written; what
+/// was on disk stays as it was.
 bool AppendLine(const std::filesystem::path& file, std::string_view line);
 
 /// Hands out the lines of a file one after the other, without their ends, LF or CR LF; the last one

@@ -13,7 +13,7 @@ namespace varnello {
 
 Engine::Engine(const Desktop& desktop)
     : data(desktop.settings, desktop.sounds, desktop.dataFolder),
-      score(data, desktop.clock, desktop.dates),
+      score(data, desktop.clock, desktop.dates, desktop.disk),
       favorites(data),
       selectGame([](cGames& record, const std::string& name) { SelectGame(record, name); }),
       desktop_(desktop),
@@ -84,11 +84,16 @@ void Engine::LeaveGame() {
     if (data.GameRunning) EndGame(data.GameWon ? Outcome::Won : Outcome::NotWon);
 }
 
+void Engine::Leave() {
+    LeaveGame();
+    score.WriteKept();
+}
+
 void Engine::EndGame(Outcome outcome) {
     if (!score.AddScore(outcome)) {
         const auto file = ScorePath(data, data.CurPlayer()).u8string();
-        desktop_.messages.Inform("The result of this game could not be written to the file\n" +
-                                 std::string(file.begin(), file.end()));
+        desktop_.messages.Warn("The result of this game could not be written to the file\n" +
+                               std::string(file.begin(), file.end()));
     }
     score.AddSesGame(outcome);
     data.GameRunning = false;

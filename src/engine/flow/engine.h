@@ -69,6 +69,8 @@ public:
     void EndGame(Outcome outcome);
     /// Ends the running game as what it is, won or not won; nothing without one.
     void LeaveGame();
+    /// The program ends: so does the running game, and what couldn't be written is tried once more.
+    void Leave();
     /// What the won dialog does when it loads: its figures, the sound, and the game's end as won.
     FinishFigures LoadFinish();
     GameNumber RandomGNo();

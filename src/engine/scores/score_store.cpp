@@ -29,8 +29,8 @@ ScoreList ReadScores(const std::filesystem::path& file, const std::string& playe
 
 }  // namespace
 
-cScore::cScore(cData& data, const Clock& clock, const DateForms& dates)
-    : data_(data), clock_(clock), dates_(dates) {}
+cScore::cScore(cData& data, const Clock& clock, const DateForms& dates, const Disk& disk)
+    : data_(data), clock_(clock), dates_(dates), disk_(disk) {}
 
 ScoreRecord cScore::CurrentGame(Outcome outcome) const {
     return {.Date = {},
@@ -46,7 +46,33 @@ ScoreRecord cScore::CurrentGame(Outcome outcome) const {
 bool cScore::AddScore(Outcome outcome) {
     ScoreRecord record = CurrentGame(outcome);
     record.Date = DateText(clock_.Now());
-    return AppendLine(ScorePath(data_, record.Player), ScoreLine(record));
+    const KeptLine result{record.Player, ScoreLine(record)};
+    WriteKept();
+    if (Write(result)) return true;
+    kept_.push_back(result);
+    return false;
+}
+
+bool cScore::Write(const KeptLine& result) const {
+    const std::filesystem::path file = ScorePath(data_, result.player);
+    std::error_code ignored;  // what is missing shows when the file is written
+    std::filesystem::create_directories(data_.AppDir(), ignored);
+    if (!AppendLine(file, result.line)) return false;
+    disk_.Flush(file);
+    return true;
+}
+
+void cScore::WriteKept() {
+    std::erase_if(kept_, [this](const KeptLine& kept) { return Write(kept); });
+}
+
+void cScore::RenameKept(std::string_view oldName, std::string_view newName) {
+    if (newName.empty()) {
+        std::erase_if(kept_, [&](const KeptLine& kept) { return kept.player == oldName; });
+    }
+    for (KeptLine& kept : kept_) {
+        if (kept.player == oldName) kept.player = newName;
+    }
 }
 
 void cScore::AddSesGame(Outcome outcome) {

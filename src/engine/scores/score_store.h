@@ -23,10 +23,15 @@ enum class Outcome : std::int16_t { NotWon = 0, Won = 1 };
 /// files into one list in memory, asks, and closes it; nothing derived from them is stored.
 class cScore {
 public:
-    cScore(cData& data, const Clock& clock, const DateForms& dates);
+    cScore(cData& data, const Clock& clock, const DateForms& dates, const Disk& disk);
 
-    /// Appends the current game to the current player's file. False when it can't be written.
+    /// Appends the current game to the current player's file. False when it can't be written; then
+    /// it is kept, and tried again with the next one.
     bool AddScore(Outcome outcome);
+    /// Tries what couldn't be written.
+    void WriteKept();
+    /// A player's kept results go along with the name, or with an empty one for nobody.
+    void RenameKept(std::string_view oldName, std::string_view newName);
     /// Adds the current game to the list of this run.
     void AddSesGame(Outcome outcome);
 
@@ -81,12 +86,22 @@ private:
     cData& data_;
     const Clock& clock_;
     const DateForms& dates_;
+    const Disk& disk_;
     /// Positions in the list, from 1; 0 stands for a place not taken. Place 0 is never taken.
     using TopList = std::array<std::uint32_t, kTopPlaces + 1>;
     void PutAt(std::size_t place, std::uint32_t position);
     /// The sums over the open list, worked out when first asked for.
     const ScoreSums& Sums() const;
 
+    /// A result that couldn't be written yet.
+    struct KeptLine {
+        std::string player;
+        std::string line;
+    };
+
+    bool Write(const KeptLine& result) const;
+
+    std::vector<KeptLine> kept_;
     ScoreList list_;
     mutable std::optional<ScoreSums> sums_;
     TopList topList_{};
