@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,13 @@ public:
     virtual std::string Read(std::string_view section, std::string_view key,
                              std::string_view fallback) const = 0;
     virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
+    /// Carries out several reads and writes as one change: no other copy of the program comes
+    /// between them, and all of it is written or nothing. False, with everything as it was, when it
+    /// can't be written. Changes don't nest.
+    virtual bool Change(const std::function<void()>& change) {
+        change();
+        return true;
+    }
 };
 
 class Clock {

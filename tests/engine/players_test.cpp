@@ -146,6 +146,53 @@ TEST_F(Players, HaveNamesThatCanBeSeen) {
     for (const auto& [name, fits] : names) EXPECT_EQ(IsNewPlayerName(name), fits) << name;
 }
 
+TEST_F(Players, WhatAKillInterruptedIsMendedAtTheNextStart) {
+    const std::string games = "\"1/1/2026 1:00:00 PM\",\"Freecell\",1,1,1,1,1\r\n";
+    const auto next = [&] {
+        Engine{{store, clock, surface, sounds, messages, data.AppDir()}}.InitMain();
+    };
+    // Between the settings and the file of a rename.
+    WriteFile(File("Player1.sre"), games);
+    data.SetPlayer(1, "Anna", true);
+    data.SetRenamed("Player1", "Anna");
+    next();
+    EXPECT_EQ(ReadFile(File("Anna.sre")), games);
+    EXPECT_EQ(data.RenamedFrom() + data.RenamedTo(), "");
+    // Between the file and the settings of a deletion, and after both.
+    data.AddPlayer("Bob");
+    WriteFile(File("Bob.sre.deleted"), games);
+    WriteFile(File("Zoe.sre.deleted"), games);
+    next();
+    EXPECT_EQ(ReadFile(File("Bob.sre")), games);
+    EXPECT_FALSE(std::filesystem::exists(File("Zoe.sre.deleted")));
+    // Between two keys, as older versions wrote them, or by hand.
+    data.SetPlayer(3, "Anna", false);
+    data.SetPlayer(4, "Cid", false);
+    data.CurPlayer("Nobody");
+    next();
+    EXPECT_EQ(FirstPlayers(), "Anna|Bob|Cid||");
+    EXPECT_EQ(data.CurPlayer(), "Anna");
+}
+
+TEST_F(Players, SettingsThatCanNotBeWrittenLeaveListAndFilesInStep) {
+    struct Unwritable : script::MemoryStore {
+        bool Change(const std::function<void()>&) override { return false; }
+    } unwritable;
+    Engine other{{unwritable, clock, surface, sounds, messages, data.AppDir()}};
+    other.InitMain();
+    EXPECT_EQ(other.data.CurPlayer(), "Player1") << "there is somebody to play, for this run";
+    WriteFile(File("Player1.sre"), "x");
+    WriteFile(File("Bob.sre"), "y");
+    other.data.AddPlayer("Bob");
+    EXPECT_FALSE(other.EnterPlayer("", "Cid"));
+    EXPECT_FALSE(other.EnterPlayer("Player1", "Anna"));
+    EXPECT_FALSE(other.DeletePlayer("Bob"));
+    const std::string heard = Heard();
+    EXPECT_EQ(std::count(heard.begin(), heard.end(), '\n'), 3) << heard;
+    EXPECT_EQ(ReadFile(File("Player1.sre")) + ReadFile(File("Bob.sre")), "xy");
+    EXPECT_EQ(other.data.FindPlayer("Cid") + other.data.FindPlayer("Anna"), 0);
+}
+
 TEST_F(Players, CurrentOneIsAlwaysListed) {
     data.CurPlayer("Nobody");
     EXPECT_EQ(data.CurPlayer(), "Player1");

@@ -49,9 +49,12 @@ display gone
 play env
 kill -9 "$server"
 until_true ended "$running"
-cmp "$home/Varnello/Player1.sre" "$folder/before" || die "the display took results with it"
+cmp -n "$(stat -c %s "$folder/before")" "$home/Varnello/Player1.sre" "$folder/before" ||
+    die "the display took results with it"
+grep -qE '"Penguin",[0-9]+,[0-9]+,[0-9]+,-?[0-9]+,0' "$home/Varnello/Player1.sre" ||
+    die "the running game wasn't booked"
 grep -q '^LastGName=Penguin' "$home/Varnello/Varnello.ini" || die "the display took settings with it"
-echo "A display that goes away: the program ended, results and settings stand. It said:"
+echo "A display that goes away: the program ended, the game is booked, results and settings stand. It said:"
 sed 's/^/    /' "$home/said"
 
 display unwritable

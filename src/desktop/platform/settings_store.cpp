@@ -1,10 +1,17 @@
 #include "desktop/platform/settings_store.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <system_error>
+
 #include "desktop/platform/text.h"
 #include "engine/settings/data.h"
 
 namespace varnello {
 namespace {
+
+constexpr int kLongestWait = 3000;  // milliseconds for another copy's change
 
 QString KeyOf(std::string_view section, std::string_view key) {
     return ToQt(section) + '/' + ToQt(key);
@@ -12,14 +19,34 @@ QString KeyOf(std::string_view section, std::string_view key) {
 
 }  // namespace
 
-FileSettings::FileSettings()
-    : file_(QSettings::IniFormat, QSettings::UserScope, ToQt(kProductName), ToQt(kProductName)) {
-    file_.setFallbacksEnabled(false);
+FileSettings::FileSettings() { Open(); }
+
+void FileSettings::Open() {
+    file_ = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                        ToQt(kProductName), ToQt(kProductName));
+    file_->setFallbacksEnabled(false);
+    read_ = StampNow();
+}
+
+FileSettings::Stamp FileSettings::StampNow() const {
+    const std::filesystem::path path(file_->fileName().toStdU16String());
+    std::error_code none;
+    Stamp stamp{.time = std::filesystem::last_write_time(path, none)};
+    stamp.size = std::filesystem::file_size(path, none);
+    return stamp;
+}
+
+void FileSettings::Refresh() const {
+    const Stamp now = StampNow();
+    if (now == read_) return;
+    file_->sync();
+    read_ = now;
 }
 
 std::string FileSettings::Read(std::string_view section, std::string_view key,
                                std::string_view fallback) const {
-    const QVariant stored = file_.value(KeyOf(section, key));
+    if (!changing_) Refresh();
+    const QVariant stored = file_->value(KeyOf(section, key));
     // A text with commas, written by hand without quotes, reads as a list.
     const QString text = stored.typeId() == QMetaType::QStringList
                              ? stored.toStringList().join(QStringLiteral(", "))
@@ -28,8 +55,41 @@ std::string FileSettings::Read(std::string_view section, std::string_view key,
 }
 
 void FileSettings::Write(std::string_view section, std::string_view key, std::string_view text) {
-    file_.setValue(KeyOf(section, key), ToQt(text));
-    file_.sync();
+    const QString name = KeyOf(section, key);
+    if (!changing_) Refresh();
+    const QVariant old = file_->value(name);
+    if (old.isValid() && old.toString() == ToQt(text)) return;
+    if (changing_ && !before_.contains(name)) before_.insert(name, old);
+    file_->setValue(name, ToQt(text));
+    if (changing_) return;
+    file_->sync();
+    read_ = StampNow();
+}
+
+bool FileSettings::Change(const std::function<void()>& change) {
+    QDir().mkpath(QFileInfo(file_->fileName()).path());
+    QLockFile lock(file_->fileName() + QStringLiteral(".change"));
+    if (!lock.tryLock(kLongestWait)) return false;
+    file_->sync();
+    changing_ = true;
+    before_.clear();
+    change();
+    changing_ = false;
+    if (before_.isEmpty()) return true;
+    file_->sync();
+    const bool written = file_->status() == QSettings::NoError;
+    if (!written) {
+        for (auto old = before_.cbegin(); old != before_.cend(); ++old) {
+            if (old.value().isValid()) {
+                file_->setValue(old.key(), old.value());
+            } else {
+                file_->remove(old.key());
+            }
+        }
+        Open();  // an error sticks to the object
+    }
+    read_ = StampNow();
+    return written;
 }
 
 }  // namespace varnello

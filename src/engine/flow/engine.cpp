@@ -28,9 +28,7 @@ void Engine::InitMain() {
     // A folder that can't be made shows when the first result is booked.
     std::error_code ignored;
     std::filesystem::create_directories(data.AppDir(), ignored);
-    data.PackPlayers();  // settings edited by hand may have gaps, or nobody as the current player
-    if (data.TotalPlayers() == 0) data.SetPlayer(1, "Player1", true);
-    data.CurPlayer(std::string(data.CurPlayer()));
+    MendPlayers();
 }
 
 double NumberLimit(std::int16_t rangeIndex) {

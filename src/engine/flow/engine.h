@@ -171,6 +171,11 @@ private:
     void ClearTable();
     /// The stock's mark in games with a redeal: the stop sign once nothing is left to turn over.
     void ShowRedealMark();
+    void RefuseSettings();
+    void RefuseFile(const std::string& what, const std::filesystem::path& file);
+    /// Finishes a rename that was interrupted, and puts the list of players in order.
+    void MendPlayers();
+    void TakeBackUnfinishedDeletes();
     bool RenamePlayer(const std::string& oldName, const std::string& newName);
     void EndReplay();
 

@@ -92,8 +92,16 @@ public:
     std::int16_t FindPlayer(std::string_view name) const;
     /// Puts the name into the first free slot; false when all 20 are taken.
     bool AddPlayer(std::string_view name);
-    /// Closes all gaps between the names, which keep their order.
+    /// Closes all gaps between the names, which keep their order; of a doubled name the first
+    /// stays.
     void PackPlayers();
+    /// The rename of a player whose score file may not have its new name yet; empty without one.
+    std::string RenamedFrom() const;
+    std::string RenamedTo() const;
+    void SetRenamed(std::string_view from, std::string_view to);
+
+    /// Several reads and writes as one change, see `SettingsStore::Change`.
+    bool Change(const std::function<void()>& change) { return store_.Change(change); }
 
     // Recent games, 1 the newest.
     std::string GetRecent(std::int16_t index) const;

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::string_view kUsersSection = "Users";
 constexpr std::int16_t kCurrentSlot = 100;
+constexpr std::int16_t kRenamedFrom = 101;
+constexpr std::int16_t kRenamedTo = 102;
 
 }  // namespace
 
@@ -60,11 +62,24 @@ bool cData::AddPlayer(std::string_view name) {
     return true;
 }
 
+std::string cData::RenamedFrom() const { return GetPlayer(kRenamedFrom); }
+
+std::string cData::RenamedTo() const { return GetPlayer(kRenamedTo); }
+
+void cData::SetRenamed(std::string_view from, std::string_view to) {
+    if (RenamedFrom() != from) Slot(kUsersSection, kRenamedFrom, from);
+    if (RenamedTo() != to) Slot(kUsersSection, kRenamedTo, to);
+}
+
 void cData::PackPlayers() {
     std::int16_t next = 1;
     for (std::int16_t slot = 1; slot <= kMaxPlayers; ++slot) {
         const std::string name = GetPlayer(slot);
         if (name.empty()) continue;
+        if (FindPlayer(name) < slot) {
+            SetPlayer(slot, {}, false);
+            continue;
+        }
         if (slot != next) {
             SetPlayer(next, name, false);
             SetPlayer(slot, {}, false);
