@@ -45,8 +45,7 @@ bool ScriptedTable::Choose(std::string_view command, Words& words) {
         PlayFavorite(words);
     } else if (command == "favorites-clear") {
         words.End();
-        engine_.favorites.ClearFav();
-        engine_.favorites.OpenFav();
+        engine_.ClearFavorites();
     } else {
         return false;
     }

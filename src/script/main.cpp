@@ -14,8 +14,13 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = argv[1];
     std::error_code error;
     std::filesystem::create_directories(folder, error);
-    if (!std::filesystem::is_directory(folder)) {
-        std::cerr << "varnello-script: the folder " << argv[1] << " can't be made\n";
+    bool usable = std::filesystem::is_directory(folder, error);
+    if (usable) {
+        std::filesystem::directory_iterator(folder, error);  // whether it can be looked into
+        usable = !error;
+    }
+    if (!usable) {
+        std::cerr << "varnello-script: the folder " << argv[1] << " can't be used\n";
         return 2;
     }
     std::ios::sync_with_stdio(false);

@@ -274,11 +274,11 @@ TEST_F(Reports, OddFilesAreReadAsFarAsTheyGo) {
     odd += "\n\"" + std::string(3 << 20, 'g') + "\",\"g\",1,1,1,1,1\n" + good;
     WriteFile(ScoreFile(), odd);
     engine.score.OpenAllScore();
-    EXPECT_EQ(engine.score.ScoreTop(), 5);
+    EXPECT_EQ(engine.score.ScoreTop(), 4) << "the long line counts as damaged";
     EXPECT_EQ(ReadFile(ScoreFile()), odd) << "a reader changes nothing";
     engine.score.OpenScore("Player1");
-    EXPECT_EQ(engine.score.ScoreTop(), 10) << "opening again doubles the list";
-    EXPECT_EQ(engine.score.AllSummary().Played, 10);
+    EXPECT_EQ(engine.score.ScoreTop(), 8) << "opening again doubles the list";
+    EXPECT_EQ(engine.score.AllSummary().Played, 8);
 }
 
 }  // namespace

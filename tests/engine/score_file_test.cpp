@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include "engine/common/text_file.h"
 #include "fixture.h"
 
@@ -122,6 +124,22 @@ TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
     engine.score.OpenAllScore();
     ASSERT_EQ(engine.score.ScoreTop(), 2) << "what couldn't be written was kept";
     EXPECT_EQ(engine.score.GetScore(1).GameNo, GameNumber::Number(5));
+}
+
+TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {
+    ASSERT_EQ(mkfifo(ScoreFile().c_str(), 0600), 0);
+    engine.score.OpenAllScore();  // and isn't waited for
+    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    EXPECT_FALSE(AppendLine(ScoreFile(), "x"));
+    std::filesystem::remove(ScoreFile());
+    std::filesystem::create_symlink("/dev/zero", ScoreFile());
+    engine.score.OpenAllScore();
+    std::filesystem::remove(ScoreFile());
+    const std::filesystem::path lines = folder.Path() / "lines";
+    const std::string longest(65536, 'a');
+    const std::string tooLong(200000, 'b');
+    WriteFile(lines, "x\n" + longest + "\n" + tooLong + "\n" + longest + "c\ny\n" + tooLong);
+    EXPECT_EQ(ReadLines(lines), (std::vector<std::string>{"x", longest, "y"}));
 }
 
 TEST_F(ScoreFiles, LineThatLacksItsEndAloneIsFinishedAndNotDoubled) {

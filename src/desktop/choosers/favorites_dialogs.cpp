@@ -129,8 +129,7 @@ void OrganizeFavoritesDialog::UpdateLVFav() {
 }
 
 void OrganizeFavoritesDialog::Clear() {
-    engine_.favorites.ClearFav();
-    engine_.favorites.OpenFav();
+    engine_.ClearFavorites();
     UpdateLVFav();
 }
 

@@ -8,6 +8,8 @@
 namespace varnello {
 namespace {
 
+constexpr int kNameShown = 16;  // characters
+
 void Select(QComboBox& combo, const std::string& text) {
     combo.setCurrentIndex(
         std::max(combo.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive), 0));
@@ -23,6 +25,9 @@ void FillGames(QComboBox& combo, const cData& data, const std::string& selected)
 }
 
 void FillPlayers(QComboBox& combo, const cData& data) {
+    // However long a name is that was edited into the settings, the window stays as it is.
+    combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo.setMinimumContentsLength(kNameShown);
     for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
         combo.addItem(SmallIcon(QStringLiteral("player")), ToQt(data.GetPlayer(slot)));
     }

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStandardPaths>
 #include <system_error>
 
 #include "desktop/platform/text.h"
@@ -22,8 +23,15 @@ QString KeyOf(std::string_view section, std::string_view key) {
 FileSettings::FileSettings() { Open(); }
 
 void FileSettings::Open() {
-    file_ = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                        ToQt(kProductName), ToQt(kProductName));
+    QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/' +
+                   ToQt(kProductName) + '/' + ToQt(kProductName) + QStringLiteral(".ini");
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile()) {
+        // Something that may be waited for, or never ends, isn't even opened.
+        qWarning("%s is no plain file; the settings of this run aren't kept.", qPrintable(path));
+        path += QStringLiteral("/none");
+    }
+    file_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
     file_->setFallbacksEnabled(false);
     read_ = StampNow();
 }

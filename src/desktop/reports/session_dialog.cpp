@@ -13,6 +13,7 @@ namespace varnello {
 namespace {
 
 constexpr QSize kSize(880, 640);
+constexpr int kLabelShown = 30;    // characters
 constexpr int kTick = 500;         // milliseconds
 constexpr int kDetailWidth = 330;  // pixels
 
@@ -35,6 +36,8 @@ GameFigures RunningFigures(const cData& data) {
 QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
     auto* label = new QLabel(ToQt(text));
     label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * kLabelShown);
     rows->addWidget(label);
     return label;
 }

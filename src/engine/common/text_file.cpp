@@ -3,11 +3,22 @@
 #include <algorithm>
 #include <fstream>
 #include <system_error>
+#include <utility>
 
 namespace varnello {
 namespace {
 
 constexpr std::size_t kBlock = 65536;  // bytes read at a time
+
+constexpr std::size_t kLongestLine = 65536;  // bytes; a longer one is damaged, whatever it holds
+
+/// Whether there is something in the file's place that may be waited for or never ends.
+bool IsUnfit(const std::filesystem::path& file) {
+    std::error_code none;
+    const auto kind = std::filesystem::status(file, none).type();
+    return kind != std::filesystem::file_type::regular &&
+           kind != std::filesystem::file_type::not_found;
+}
 
 constexpr std::string_view kLineEnd = "\r\n";
 
@@ -34,6 +45,7 @@ std::string Continuation(const std::filesystem::path& file, std::string_view lin
 }  // namespace
 
 bool AppendLine(const std::filesystem::path& file, std::string_view line) {
+    if (IsUnfit(file)) return false;
     const std::string text = Continuation(file, line);
     std::ofstream out(file, std::ios::binary | std::ios::app);
     out.write(text.data(), static_cast<std::streamsize>(text.size()));
@@ -43,10 +55,13 @@ bool AppendLine(const std::filesystem::path& file, std::string_view line) {
 
 void ForEachLine(const std::filesystem::path& file,
                  const std::function<void(std::string_view)>& take) {
+    if (IsUnfit(file)) return;
     std::ifstream in(file, std::ios::binary);
     std::string buffer;
     std::size_t kept = 0;  // bytes of a line whose end hasn't been read yet
+    bool tooLong = false;  // that line is, and what is kept of it is its rest
     const auto hand = [&](std::string_view line) {
+        if (std::exchange(tooLong, false) || line.size() > kLongestLine) return;
         if (line.ends_with('\r')) line.remove_suffix(1);
         take(line);
     };
@@ -60,6 +75,10 @@ void ForEachLine(const std::filesystem::path& file,
             hand(rest.substr(0, end));
             rest.remove_prefix(end + 1);
             searched = 0;
+        }
+        if (rest.size() > kLongestLine) {
+            tooLong = true;
+            rest = {};
         }
         kept = rest.size();
         std::copy(rest.begin(), rest.end(), buffer.begin());

@@ -110,6 +110,8 @@ public:
     /// Deletes the score files of all listed players, and says so; the list of this run stays. To
     /// be asked before: `kClearStatQuestion`.
     void ClearStat();
+    /// Deletes the favorites, and says so when that can't be done.
+    void ClearFavorites();
     /// Writes the report over all results to a file, and says so. Silent when it can't be written.
     /// Closes the score list.
     void ExportStat(const ChosenFile& file);

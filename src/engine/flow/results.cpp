@@ -8,11 +8,28 @@
 namespace varnello {
 
 void Engine::ClearStat() {
+    std::string stay;
     for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        std::error_code ignored;
-        std::filesystem::remove(ScorePath(data, data.GetPlayer(slot)), ignored);
+        const std::filesystem::path file = ScorePath(data, data.GetPlayer(slot));
+        std::error_code error;
+        std::filesystem::remove(file, error);
+        if (!error) continue;
+        const auto name = file.u8string();
+        stay.append("\n").append(name.begin(), name.end());
+    }
+    if (!stay.empty()) {
+        desktop_.messages.Refuse("These files could not be removed, and their results stay:" +
+                                 stay);
+        return;
     }
     desktop_.messages.Inform("Statistics, High Score and Log have been Cleared.");
+}
+
+void Engine::ClearFavorites() {
+    if (!favorites.ClearFav()) {
+        RefuseFile("The favorites stay, because this file could not be removed:", favorites.File());
+    }
+    favorites.OpenFav();
 }
 
 void Engine::ExportStat(const ChosenFile& file) {

@@ -11,6 +11,7 @@
 namespace varnello {
 namespace {
 
+constexpr std::size_t kLongestNumber = 400;  // characters
 constexpr std::size_t kMaxFavorites = std::numeric_limits<std::int16_t>::max();
 
 std::optional<FavRecord> ParseFavLine(std::string_view line) {
@@ -19,7 +20,7 @@ std::optional<FavRecord> ParseFavLine(std::string_view line) {
     NumberField number;
     const bool sound =
         reader.Quoted(game) && reader.Comma() && number.Take(reader) && reader.AtEnd();
-    if (!sound) return std::nullopt;
+    if (!sound || number.Number().Shown().size() > kLongestNumber) return std::nullopt;
     return FavRecord{std::string(game), number.Number()};
 }
 
@@ -39,9 +40,10 @@ bool Favorites::AddFav(const std::string& game, const GameNumber& number) const 
     return AppendLine(File(), QuotedField(game) + ',' + number.Field());
 }
 
-void Favorites::ClearFav() const {
-    std::error_code ignored;  // what can't be deleted shows again in the list
-    std::filesystem::remove(File(), ignored);
+bool Favorites::ClearFav() const {
+    std::error_code error;
+    std::filesystem::remove(File(), error);
+    return !error;
 }
 
 std::vector<std::string> Favorites::NumbersOf(std::string_view game) const {

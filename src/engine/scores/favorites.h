@@ -29,8 +29,9 @@ public:
     void OpenFav();
     /// Appends one line; the open list stays as it is. False when the file can't be written.
     bool AddFav(const std::string& game, const GameNumber& number) const;
-    /// Deletes the file if there is one; the open list stays as it is.
-    void ClearFav() const;
+    /// Deletes the file if there is one; the open list stays as it is. False when it can't be
+    /// removed.
+    bool ClearFav() const;
 
     std::int16_t FavTop() const { return static_cast<std::int16_t>(list_.size()); }
     /// An entry of the open list, 1 to `FavTop`.

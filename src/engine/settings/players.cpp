@@ -94,7 +94,9 @@ bool IsPlayerName(std::string_view name) {
     const auto unfit = [](char c) {
         return c == '/' || c == '\\' || (static_cast<unsigned char>(c) < 0x20) || c == 0x7F;
     };
-    return !Trim(name).empty() && std::none_of(name.begin(), name.end(), unfit);
+    constexpr std::size_t kLongest = 250;  // bytes; with its ending it has to be a file's name
+    return name.size() <= kLongest && !Trim(name).empty() &&
+           std::none_of(name.begin(), name.end(), unfit);
 }
 
 std::string CutPlayerName(std::string_view name) {
