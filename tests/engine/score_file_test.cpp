@@ -128,8 +128,11 @@ TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
 
 TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {
     ASSERT_EQ(mkfifo(ScoreFile().c_str(), 0600), 0);
-    engine.score.OpenAllScore();  // and isn't waited for
+    engine.OpenScores();  // and isn't waited for
     EXPECT_EQ(engine.score.ScoreTop(), 0);
+    EXPECT_NE(Heard().find("Player1.sre"), std::string::npos);
+    engine.OpenScores();
+    EXPECT_EQ(Heard(), "") << "told once";
     EXPECT_FALSE(AppendLine(ScoreFile(), "x"));
     std::filesystem::remove(ScoreFile());
     std::filesystem::create_symlink("/dev/zero", ScoreFile());

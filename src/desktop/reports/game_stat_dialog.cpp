@@ -74,7 +74,7 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
     all->addWidget(SSTab1_);
     all->addWidget(MakeButtons());
     resize(kSize);
-    engine_.score.OpenAllScore();
+    engine_.OpenScores();
     Fill();
 }
 
@@ -209,7 +209,7 @@ void GameStatDialog::Export() {
     const auto file = AskForReportFile(this);
     if (!file) return;
     engine_.ExportStat(*file);
-    engine_.score.OpenAllScore();  // the export has closed the list
+    engine_.OpenScores();  // the export has closed the list
     Fill();
 }
 

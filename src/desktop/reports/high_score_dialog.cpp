@@ -76,7 +76,7 @@ HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
     connect(imcPlayer_, &QComboBox::activated, this, &HighScoreDialog::FillPlayer);
     connect(imcFin_, &QComboBox::activated, this, &HighScoreDialog::FillFinished);
 
-    engine_.score.OpenAllScore();
+    engine_.OpenScores();
     lvTop_->SetRows(TopRows(engine_.score, engine_.dates()));
     FillGame();
     FillPlayer();

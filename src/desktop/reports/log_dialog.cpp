@@ -30,7 +30,7 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
       imcDate_(new QComboBox) {
     setWindowTitle(QStringLiteral("Log Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
-    engine_.score.OpenAllScore();
+    engine_.OpenScores();
     lvLog_ = new LogModel(engine_.score.List(), engine_.dates(), this);
 
     FillPlayers(*imcPlayer_, engine.data);

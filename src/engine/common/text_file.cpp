@@ -53,10 +53,12 @@ bool AppendLine(const std::filesystem::path& file, std::string_view line) {
     return out.good();
 }
 
-void ForEachLine(const std::filesystem::path& file,
+bool ForEachLine(const std::filesystem::path& file,
                  const std::function<void(std::string_view)>& take) {
-    if (IsUnfit(file)) return;
+    if (IsUnfit(file)) return false;
     std::ifstream in(file, std::ios::binary);
+    std::error_code none;
+    if (!in.is_open()) return !std::filesystem::exists(file, none) && !none;
     std::string buffer;
     std::size_t kept = 0;  // bytes of a line whose end hasn't been read yet
     bool tooLong = false;  // that line is, and what is kept of it is its rest
@@ -84,6 +86,7 @@ void ForEachLine(const std::filesystem::path& file,
         std::copy(rest.begin(), rest.end(), buffer.begin());
     }
     if (kept > 0) hand(std::string_view(buffer).substr(0, kept));
+    return !in.bad();
 }
 
 std::vector<std::string> ReadLines(const std::filesystem::path& file) {

@@ -16,8 +16,9 @@ bool AppendLine(const std::filesystem::path& file, std::string_view line);
 
 /// Hands out the lines of a file one after the other, without their ends, LF or CR LF; the last one
 /// needs none. A missing or unreadable file has no lines, nor has anything but a plain file; a line
-/// of more than 64 KiB is left out. A view is good for its call only.
-void ForEachLine(const std::filesystem::path& file,
+/// of more than 64 KiB is left out. A view is good for its call only. False when there is something
+/// that can't be read, or not to its end.
+bool ForEachLine(const std::filesystem::path& file,
                  const std::function<void(std::string_view)>& take);
 
 /// All lines of a file together.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <set>
 #include <string>
 
 #include "engine/board/board.h"
@@ -110,6 +111,8 @@ public:
     /// Deletes the score files of all listed players, and says so; the list of this run stays. To
     /// be asked before: `kClearStatQuestion`.
     void ClearStat();
+    /// Opens the score list for a window, and tells of files that can't be read, of each once.
+    void OpenScores();
     /// Deletes the favorites, and says so when that can't be done.
     void ClearFavorites();
     /// Writes the report over all results to a file, and says so. Silent when it can't be written.
@@ -173,6 +176,7 @@ private:
     void ClearTable();
     /// The stock's mark in games with a redeal: the stop sign once nothing is left to turn over.
     void ShowRedealMark();
+    void TellUnread();
     void RefuseSettings();
     void RefuseFile(const std::string& what, const std::filesystem::path& file);
     /// Finishes a rename that was interrupted, and puts the list of players in order.
@@ -193,6 +197,7 @@ private:
     bool forwardOn_ = false;
     bool backwardOn_ = false;
     bool stopEnabled_ = false;
+    std::set<std::filesystem::path> toldUnread_;
 };
 
 }  // namespace varnello

@@ -25,6 +25,23 @@ void Engine::ClearStat() {
     desktop_.messages.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
+void Engine::OpenScores() {
+    score.OpenAllScore();
+    TellUnread();
+}
+
+void Engine::TellUnread() {
+    std::string files;
+    for (const std::filesystem::path& file : score.Unread()) {
+        if (!toldUnread_.insert(file).second) continue;
+        const auto name = file.u8string();
+        files.append("\n").append(name.begin(), name.end());
+    }
+    if (files.empty()) return;
+    desktop_.messages.Warn("These files of results can't be read, and their games are missing:" +
+                           files);
+}
+
 void Engine::ClearFavorites() {
     if (!favorites.ClearFav()) {
         RefuseFile("The favorites stay, because this file could not be removed:", favorites.File());
@@ -37,6 +54,8 @@ void Engine::ExportStat(const ChosenFile& file) {
     std::ofstream out(file.Path, std::ios::binary);
     WriteStat(out, score, data, Now(), dates());
     out.close();
+    toldUnread_.clear();  // a report that others read is worth a word of its own
+    TellUnread();
     score.CloseScore();
     if (!out) return;
     desktop_.messages.Inform("Statistics Successfully Exported to " + file.Name);

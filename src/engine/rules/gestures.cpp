@@ -36,22 +36,15 @@ void Gestures::MouseMove(PicID id, double x, double y) {
     if (field_.data.Playing() && dragging_ && StillHeld(id)) CardDrag(id, x, y);
 }
 
-void Gestures::MouseUp(PicID id) {
-    if (!field_.data.Playing() || !dragging_) return;
-    dragging_ = false;
-    if (StillHeld(id)) {
-        CardDrop(id);
-    } else {
-        Settle(id);
-    }
-    field_.data.PlaySound(Sound::CardUp);
-}
+void Gestures::MouseUp(PicID id) { EndDrag(id, &Gestures::CardDrop); }
 
-void Gestures::PutBack(PicID id) {
+void Gestures::PutBack(PicID id) { EndDrag(id, &Gestures::CardBack); }
+
+void Gestures::EndDrag(PicID id, void (Gestures::*end)(PicID)) {
     if (!field_.data.Playing() || !dragging_) return;
     dragging_ = false;
     if (StillHeld(id)) {
-        CardBack(id);
+        (this->*end)(id);
     } else {
         Settle(id);
     }

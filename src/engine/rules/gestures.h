@@ -31,6 +31,7 @@ public:
 private:
     void CardDown(PicID id);
     void CardDrag(PicID id, double x, double y);
+    void EndDrag(PicID id, void (Gestures::*end)(PicID));
     void CardDrop(PicID id);
     void CardBack(PicID id);
 

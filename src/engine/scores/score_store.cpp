@@ -15,16 +15,23 @@ constexpr std::size_t kMaxSesGames = std::numeric_limits<std::int16_t>::max();
 constexpr std::uintmax_t kShortLine = 40;            // bytes; few lines are shorter
 constexpr std::uintmax_t kMostReserved = 4'000'000;  // records, whatever a file's size promises
 
-ScoreList ReadScores(const std::filesystem::path& file, const std::string& player) {
+struct FileScores {
     ScoreList list;
+    std::filesystem::path unread;  ///< the file when it can't be read, or not to its end
+};
+
+FileScores ReadScores(const std::filesystem::path& file, const std::string& player) {
+    FileScores scores;
+    ScoreList& list = scores.list;
     std::error_code none;
     const std::uintmax_t bytes = std::filesystem::file_size(file, none);
     if (!none) list.Reserve(std::min(bytes / kShortLine, kMostReserved));
     const std::uint16_t number = list.AddPlayer(player);
-    ForEachLine(file, [&](std::string_view line) {
+    const bool whole = ForEachLine(file, [&](std::string_view line) {
         if (const auto fields = ReadScoreLine(line)) list.Add(*fields, number);
     });
-    return list;
+    if (!whole) scores.unread = file;
+    return scores;
 }
 
 }  // namespace
@@ -81,26 +88,33 @@ void cScore::AddSesGame(Outcome outcome) {
 
 void cScore::OpenScore(const std::string& Player) {
     sums_.reset();
-    list_.Append(ReadScores(ScorePath(data_, Player), Player));
+    const FileScores scores = ReadScores(ScorePath(data_, Player), Player);
+    list_.Append(scores.list);
+    if (!scores.unread.empty()) unread_.push_back(scores.unread);
 }
 
 void cScore::OpenAllScore() {
     CloseScore();
-    std::vector<std::future<ScoreList>> files;
+    std::vector<std::future<FileScores>> files;
     for (std::int16_t slot = 1; slot <= data_.TotalPlayers(); ++slot) {
         const std::string player = data_.GetPlayer(slot);
         files.push_back(std::async(ReadScores, ScorePath(data_, player), player));
     }
-    std::vector<ScoreList> lists;
-    lists.reserve(files.size());
-    for (auto& file : files) lists.push_back(file.get());
-    list_.Reserve(std::accumulate(lists.begin(), lists.end(), std::size_t{0},
-                                  [](auto sum, const auto& list) { return sum + list.Size(); }));
-    for (const ScoreList& list : lists) list_.Append(list);
+    std::vector<FileScores> all;
+    all.reserve(files.size());
+    for (auto& file : files) all.push_back(file.get());
+    list_.Reserve(std::accumulate(
+        all.begin(), all.end(), std::size_t{0},
+        [](auto sum, const FileScores& scores) { return sum + scores.list.Size(); }));
+    for (const FileScores& scores : all) {
+        list_.Append(scores.list);
+        if (!scores.unread.empty()) unread_.push_back(scores.unread);
+    }
 }
 
 void cScore::CloseScore() {
     list_.Clear();
+    unread_.clear();
     sums_.reset();
     topList_ = {};
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,8 @@ public:
     /// Opens all listed players' games afresh, player after player in slot order.
     void OpenAllScore();
     void CloseScore();
+    /// The files of the open list that can't be read, or not to their end.
+    const std::vector<std::filesystem::path>& Unread() const { return unread_; }
     std::int32_t ScoreTop() const { return static_cast<std::int32_t>(list_.Size()); }
     /// A copy of a record of the open list, 1 to `ScoreTop`.
     ScoreRecord GetScore(std::int32_t Index) const {
@@ -103,6 +106,7 @@ private:
 
     std::vector<KeptLine> kept_;
     ScoreList list_;
+    std::vector<std::filesystem::path> unread_;
     mutable std::optional<ScoreSums> sums_;
     TopList topList_{};
     std::vector<ScoreRecord> sesList_;
