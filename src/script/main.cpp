@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
     std::filesystem::create_directories(folder, error);
     bool usable = std::filesystem::is_directory(folder, error);
     if (usable) {
-        std::filesystem::directory_iterator(folder, error);  // whether it can be looked into
+        const std::filesystem::directory_iterator look(folder, error);
         usable = !error;
     }
     if (!usable) {

@@ -1,3 +1,6 @@
+#include <QDialog>
+#include <QMenu>
+
 #include "fixture.h"
 
 // Play by real mouse events in the window.
@@ -60,14 +63,39 @@ private Q_SLOTS:
         QCOMPARE(fixture.Card(card).Left, home);
     }
 
-    void ALostReleaseEndsTheDrag() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
-        const PicID card = fixture.Top(Cell::Home, 0);
-        fixture.Press(fixture.CentreOf(card));
-        fixture.Move(fixture.At(7000, 9000));
-        fixture.Move(fixture.At(7000, 9000), Qt::NoButton);
-        QVERIFY(!fixture.engine().gestures().Dragging());
+    void ALostReleasePutsTheCardBack() {
+        const std::pair<const char*, std::function<void(WindowFixture&)>> ways[] = {
+            {"a move without a button",
+             [](WindowFixture& f) { f.Move(f.At(7000, 9000), Qt::NoButton); }},
+            {"a menu",
+             [](WindowFixture& f) {
+                 QMenu* menu = f.window.findChildren<QMenu*>().constFirst();
+                 menu->popup(QPoint(5, 5));
+                 menu->close();
+             }},
+            {"a dialog",
+             [](WindowFixture& f) {
+                 WhenOpen<QDialog>([](QDialog& dialog) { dialog.reject(); });
+                 f.window.menu().mStat(1)->trigger();
+             }},
+            {"a hidden window", [](WindowFixture& f) { f.window.hide(); }},
+            {"a lost grab", [](WindowFixture& f) {
+                 QEvent lost(QEvent::UngrabMouse);
+                 QCoreApplication::sendEvent(&f.window.table(), &lost);
+             }}};
+        for (const auto& [way, happen] : ways) {
+            WindowFixture fixture;
+            fixture.StartWithoutAutoplay("Freecell");
+            const PicID card = fixture.Top(Cell::Home, 0);
+            const double left = fixture.Card(card).Left;
+            fixture.Press(fixture.CentreOf(card));
+            fixture.Move(fixture.At(2980 + 532, 200 + 720));  // over a free reserve
+            happen(fixture);
+            QVERIFY2(!fixture.engine().gestures().Dragging(), way);
+            QVERIFY2(fixture.Card(card).Left == left, way);
+            fixture.Move(fixture.At(2980 + 532, 200 + 720), Qt::NoButton);
+            QVERIFY2(fixture.engine().trans().GetTransID() == 0, way);
+        }
     }
 
     void AClickOnTheStocksSlotTurnsTheWasteBack() {

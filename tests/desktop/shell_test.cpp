@@ -163,7 +163,10 @@ private Q_SLOTS:
             frame = dialog.findChild<QGroupBox*>()->title();
             const auto* list = dialog.findChild<QListWidget*>();
             for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text();
-            ButtonCalled(dialog, "Restart Game")->click();
+            QVERIFY2(dialog.focusWidget() == ButtonCalled(dialog, "New Game"),
+                     "New Game isn't the default");
+            for (int i = 0; i < 2; ++i) QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);  // Restart Game
         });
         fixture.engine().ToggleAutoplay();  // the last card goes up at once
         QTRY_COMPARE(frame, "Stripped Freecell");

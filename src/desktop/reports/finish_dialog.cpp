@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
@@ -43,6 +42,7 @@ FinishDialog::FinishDialog(const FinishFigures& figures, QWidget* parent) : QDia
     auto* all = new QVBoxLayout(this);
     all->addWidget(MakeToolbar());
     all->addWidget(MakeResult(figures));
+    newGame_->setFocus();  // now that it stands in a window
 }
 
 QWidget* FinishDialog::MakeToolbar() {
@@ -60,15 +60,14 @@ QWidget* FinishDialog::MakeToolbar() {
         row->addWidget(made);
         return made;
     };
-    const auto choose = [&](CommandButton* made, FinishChoice choice) {
+    const auto choose = [&](QToolButton* made, FinishChoice choice) {
         connect(made, &QToolButton::clicked, this, [this, choice] {
             choice_ = choice;
             accept();
         });
     };
-    CommandButton* first = button("new", "New Game");
-    choose(first, FinishChoice::NewGame);
-    first->setFocus();
+    newGame_ = button("new", "New Game");
+    choose(newGame_, FinishChoice::NewGame);
     choose(button("select", "Select Game"), FinishChoice::SelectGame);
     choose(button("restart", "Restart Game"), FinishChoice::RestartGame);
     connect(button("statistics", "Statistics"), &QToolButton::clicked, this,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QToolButton>
 
 #include "engine/flow/engine.h"
 
@@ -28,6 +29,7 @@ private:
     QWidget* MakeResult(const FinishFigures& figures);
 
     FinishChoice choice_ = FinishChoice::Close;
+    QToolButton* newGame_ = nullptr;
 };
 
 }  // namespace varnello

@@ -55,7 +55,7 @@ void Motion::Cleared() {
     Q_EMIT Changed();
 }
 
-void Motion::Take(Step step) {
+void Motion::Take(const Step& step) {
     const auto* card = std::get_if<CardStep>(&step);
     const bool flies = card && card->steps > 0;
     if (!Showing() && !flies) {
@@ -68,7 +68,7 @@ void Motion::Take(Step step) {
         due_ = Steady::now();
         timer_.start(0);
     }
-    steps_.push_back(std::move(step));
+    steps_.push_back(step);
 }
 
 void Motion::Apply(const Step& step) {

@@ -74,7 +74,7 @@ private:
         Steady::duration hold{};  ///< for one place
     };
 
-    void Take(Step step);
+    void Take(const Step& step);
     void Apply(const Step& step);
     /// Shows what takes no time, up to the next flight, which begins.
     void ShowUntilFlight();

@@ -24,7 +24,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 /// What has to be written so that `line` stands in the file as one of its own.
 std::string Continuation(const std::filesystem::path& file, std::string_view line) {
-    const std::string whole = std::string(line).append(kLineEnd);
+    std::string whole = std::string(line).append(kLineEnd);
     std::error_code none;
     const std::uintmax_t size = std::filesystem::file_size(file, none);
     if (none || size == 0) return whole;
