@@ -1,10 +1,11 @@
 #include "desktop/platform/settings_store.h"
 
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
-#include <system_error>
 
 #include "desktop/platform/text.h"
 #include "engine/settings/data.h"
@@ -33,15 +34,14 @@ void FileSettings::Open() {
     }
     file_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
     file_->setFallbacksEnabled(false);
+    path_ = QFile::encodeName(file_->fileName());
     read_ = StampNow();
 }
 
 FileSettings::Stamp FileSettings::StampNow() const {
-    const std::filesystem::path path(file_->fileName().toStdU16String());
-    std::error_code none;
-    Stamp stamp{.time = std::filesystem::last_write_time(path, none)};
-    stamp.size = std::filesystem::file_size(path, none);
-    return stamp;
+    struct stat found {};
+    if (stat(path_.constData(), &found) != 0) return {};
+    return {found.st_dev, found.st_ino, found.st_mtim.tv_sec, found.st_mtim.tv_nsec, found.st_size};
 }
 
 void FileSettings::Refresh() const {

@@ -2,7 +2,7 @@
 
 #include <QMap>
 #include <QSettings>
-#include <filesystem>
+#include <cstdint>
 #include <memory>
 
 #include "engine/desktop.h"
@@ -23,8 +23,9 @@ public:
 private:
     /// What tells that the file isn't the one that was read.
     struct Stamp {
-        std::filesystem::file_time_type time;
-        std::uintmax_t size = 0;
+        std::uint64_t device = 0, file = 0;  ///< a change puts a new file in the place of the old
+        std::int64_t seconds = 0, nanoseconds = 0;
+        std::int64_t size = 0;
         bool operator==(const Stamp&) const = default;
     };
 
@@ -33,6 +34,7 @@ private:
     void Refresh() const;
 
     std::unique_ptr<QSettings> file_;
+    QByteArray path_;  ///< of the file, as the system spells it
     mutable Stamp read_;
     bool changing_ = false;
     QMap<QString, QVariant> before_;  ///< what the change under way has overwritten
