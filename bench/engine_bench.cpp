@@ -1,5 +1,8 @@
 #include <benchmark/benchmark.h>
 
+#include <optional>
+
+#include "bench/shuttle.h"
 #include "engine/definitions/catalogue.h"
 #include "engine/flow/engine.h"
 #include "engine/null_desktop.h"
@@ -12,14 +15,15 @@ namespace {
 
 void BM_StartGame(benchmark::State& state, const char* game) {
     NullDesktop nothing;
-    Engine engine(nothing.Interfaces({}));
-    engine.data.Set(keys::Autoplay, 0);
     double number = 1;
     for (auto _ : state) {
-        engine.StartGame(game, GameNumber::Number(number));
         state.PauseTiming();
-        engine.data.GameRunning = false;  // an end would write a score file
-        engine.table.Clear();
+        std::optional<Engine> engine(std::in_place, nothing.Interfaces({}));
+        engine->data().Set(keys::Autoplay, 0);
+        state.ResumeTiming();
+        engine->life().StartGame(game, GameNumber::Number(number));
+        state.PauseTiming();
+        engine.reset();  // without an end, which would write a score file
         number += 1;
         state.ResumeTiming();
     }
@@ -61,22 +65,14 @@ BENCHMARK(BM_MoveCard);
 void BM_UndoAll_1000_records(benchmark::State& state) {
     NullDesktop nothing;
     Engine engine(nothing.Interfaces({}));
-    engine.data.Set(keys::Autoplay, 0);
-    engine.StartGame("Freecell", GameNumber::Number(1));
-    // One card between two reserves, a thousand times.
-    const PicID card = engine.array().GetTopPicID(Cell::Home, 0);
-    for (std::size_t i = 0; i < 1000; ++i) {
-        const KesEmpty& slot = engine.table.PicRes[i % 2];
-        const KesCard& moved = engine.table.Card(card);
-        engine.gestures().MouseDown(card, 0, 0);
-        engine.gestures().MouseMove(card, slot.Left - moved.Left, slot.Top - moved.Top);
-        engine.gestures().MouseUp(card);
-    }
+    engine.data().Set(keys::Autoplay, 0);
+    engine.life().StartGame("Freecell", GameNumber::Number(1));
+    Shuttle(engine, 1000);
     if (engine.trans().GetTransID() != 1000) return state.SkipWithError("the moves weren't made");
     for (auto _ : state) {
-        engine.UndoAll();
+        engine.commands().UndoAll();
         state.PauseTiming();
-        engine.RedoAll();
+        engine.commands().RedoAll();
         state.ResumeTiming();
     }
 }

@@ -4,10 +4,12 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
 
+#include "bench/shuttle.h"
 #include "desktop/window/main_window.h"
 #include "engine/null_desktop.h"
 
@@ -57,32 +59,26 @@ void Measure(const char* what, Motion& motion, double frame) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     NullDesktop nothing;
-    MainWindow window({nothing.settings, nothing.clock, nothing.sounds, {}});
+    const QTemporaryDir folder;
+    MainWindow window(
+        {nothing.settings, nothing.clock, nothing.sounds, folder.path().toStdString()});
     window.showMaximized();
     QCoreApplication::processEvents();
     const double frame = 1000 / std::clamp(window.screen()->refreshRate(), 30.0, 240.0);
     Engine& engine = window.engine();
-    engine.data.Set(keys::Autoplay, 0);
+    engine.data().Set(keys::Autoplay, 0);
     for (int i = 0; i < 3; ++i) {
-        engine.StartGame("Zodiac", GameNumber::Number(i + 1));
+        engine.life().StartGame("Zodiac", GameNumber::Number(i + 1));
         Measure("deal of 104 cards", window.motion(), frame);
     }
-    // One card between two reserves.
-    engine.StartGame("Freecell", GameNumber::Number(1));
+    engine.life().StartGame("Freecell", GameNumber::Number(1));
     window.motion().Finish();
-    const PicID card = engine.array().GetTopPicID(Cell::Home, 0);
-    for (std::size_t i = 0; i < 10; ++i) {
-        const KesEmpty& slot = engine.table.PicRes[i % 2];
-        const KesCard& moved = engine.table.Card(card);
-        engine.gestures().MouseDown(card, 0, 0);
-        engine.gestures().MouseMove(card, slot.Left - moved.Left, slot.Top - moved.Top);
-        engine.gestures().MouseUp(card);
-    }
+    Shuttle(engine, 10);
     window.motion().Finish();
-    engine.data.Set(keys::UndoallSpeed, 50);
-    engine.UndoAll();
+    engine.data().Set(keys::UndoallSpeed, 50);
+    engine.commands().UndoAll();
     Measure("Undo All, slowest", window.motion(), frame);
-    engine.RedoAll();
+    engine.commands().RedoAll();
     Measure("Redo All, slowest", window.motion(), frame);
     std::fflush(stdout);
     std::_Exit(0);

@@ -19,11 +19,12 @@ struct FullTable {
           pictures(ratio),
           background(BackgroundPicture(ratio, {})),
           surface(background) {
-        engine.data.Set(keys::Autoplay, 0);
-        engine.StartGame("Double Baker's Spider", GameNumber::Number(1));
+        engine.data().Set(keys::Autoplay, 0);
+        engine.life().StartGame("Double Baker's Spider", GameNumber::Number(1));
+        table = engine.table();
         for (PicID id = 0; id < 13; ++id) {
-            engine.table.Card(id).MoveTo(5000, 3000 + 250 * id);
-            engine.table.BringToFront(id);
+            table.Card(id).MoveTo(5000, 3000 + 250 * id);
+            table.BringToFront(id);
         }
     }
 
@@ -35,11 +36,12 @@ struct FullTable {
         QPainter painter(&surface);
         painter.setClipRect(dirty);
         painter.drawImage(dirty.topLeft(), background, dirty);
-        PaintTable(painter, engine.table, pictures, keys::DeckIndex.Default, dirty);
+        PaintTable(painter, table, pictures, keys::DeckIndex.Default, dirty);
     }
 
     NullDesktop nothing;
     Engine engine;
+    Table table;
     CardPictures pictures;
     QImage background;
     QImage surface;

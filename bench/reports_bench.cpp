@@ -62,12 +62,12 @@ int main(int argc, char** argv) {
     PresentClock clock;
     Engine engine(Desktop{nothing.settings, clock, nothing.surface, nothing.sounds,
                           nothing.messages, argv[1]});
-    cData& data = engine.data;
+    cData& data = engine.data();
     for (std::int16_t slot = 1;
          std::filesystem::exists(ScorePath(data, "Player" + std::to_string(slot))); ++slot) {
         data.SetPlayer(slot, "Player" + std::to_string(slot), slot == 1);
     }
-    cScore& score = engine.score;
+    cScore& score = engine.score();
     const DateForms& dates = engine.dates();
 
     const double before = Resident();

@@ -76,8 +76,8 @@ int main(int argc, char** argv) {
     Engine engine(nothing.Interfaces(argv[1]));
     for (std::int16_t slot = 1;; ++slot) {
         const std::string player = "Player" + std::to_string(slot);
-        if (!std::filesystem::exists(ScorePath(engine.data, player))) break;
-        engine.data.SetPlayer(slot, player, slot == 1);
+        if (!std::filesystem::exists(ScorePath(engine.data(), player))) break;
+        engine.data().SetPlayer(slot, player, slot == 1);
     }
     Measure<GameStatDialog>("Game Statistics", engine);
     Measure<HighScoreDialog>("High Score", engine);

@@ -16,12 +16,12 @@ std::string Unquoted(std::string_view word) {
 void ScriptedTable::PlayFavorite(Words& words) {
     const auto item = words.Whole<int>();
     const std::string game = words.Game();
-    engine_.favorites.OpenFav();
-    const auto numbers = engine_.favorites.NumbersOf(game);
+    engine_.favorites().OpenFav();
+    const auto numbers = engine_.favorites().NumbersOf(game);
     if (item < 1 || item > static_cast<int>(numbers.size())) throw BadLine("no such favorite");
     const std::string& number = numbers[static_cast<std::size_t>(item - 1)];
     if (!ParseDecimal(number)) throw BadLine("not a game number: " + number);
-    engine_.StartGame(game, GameNumber::Text(number));
+    engine_.life().StartGame(game, GameNumber::Text(number));
 }
 
 bool ScriptedTable::Choose(std::string_view command, Words& words) {
@@ -33,19 +33,20 @@ bool ScriptedTable::Choose(std::string_view command, Words& words) {
     } else if (command == "choose") {
         const std::string number = Unquoted(words.Word());
         const std::string game = words.Game();
-        if (engine_.AcceptNumber(number)) engine_.StartGame(game, GameNumber::Text(number));
+        if (engine_.choosing().AcceptNumber(number))
+            engine_.life().StartGame(game, GameNumber::Text(number));
     } else if (command == "favorite") {
         words.End();
-        engine_.AddFavorite();
+        engine_.commands().AddFavorite();
     } else if (command == "favorites") {
         const std::string game = words.Game();
-        engine_.favorites.OpenFav();
-        PrintFavorites(out_, engine_.favorites, game);
+        engine_.favorites().OpenFav();
+        PrintFavorites(out_, engine_.favorites(), game);
     } else if (command == "favorite-play") {
         PlayFavorite(words);
     } else if (command == "favorites-clear") {
         words.End();
-        engine_.ClearFavorites();
+        engine_.choosing().ClearFavorites();
     } else {
         return false;
     }
@@ -56,21 +57,22 @@ void ScriptedTable::RenamePlayer(const std::string& names) {
     const std::size_t bar = names.find('|');
     if (bar == std::string::npos) throw BadLine("a rename takes OLD|NEW");
     const std::string oldName = names.substr(0, bar);
-    if (oldName.empty() || engine_.data.FindPlayer(oldName) == 0) throw BadLine("no such player");
-    engine_.EnterPlayer(oldName, CutPlayerName(names.substr(bar + 1)));
+    if (oldName.empty() || engine_.data().FindPlayer(oldName) == 0) throw BadLine("no such player");
+    engine_.players().EnterPlayer(oldName, CutPlayerName(names.substr(bar + 1)));
 }
 
 bool ScriptedTable::Keep(std::string_view command, Words& words) {
     if (command == "player-add") {
         const std::string name = words.Rest();
-        if (engine_.MayAddPlayer()) engine_.EnterPlayer({}, CutPlayerName(name));
+        if (engine_.players().MayAddPlayer())
+            engine_.players().EnterPlayer({}, CutPlayerName(name));
     } else if (command == "player-rename") {
         RenamePlayer(words.Rest());
     } else if (command == "player-delete") {
         const std::string name = words.Rest();
-        const bool deletable = engine_.data.FindPlayer(name) != 0;
-        if (!deletable || name == engine_.data.CurPlayer()) throw BadLine("not to be deleted");
-        if (Ask(kDeletePlayerQuestion)) engine_.DeletePlayer(name);
+        const bool deletable = engine_.data().FindPlayer(name) != 0;
+        if (!deletable || name == engine_.data().CurPlayer()) throw BadLine("not to be deleted");
+        if (Ask(kDeletePlayerQuestion)) engine_.players().DeletePlayer(name);
     } else {
         return false;
     }

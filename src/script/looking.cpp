@@ -33,7 +33,7 @@ void PrintPiles(std::ostream& out, const Engine& engine) {
             out << c << ' ' << pile << ':';
             for (int pos = 0; pos <= top; ++pos) {
                 const PicID id = array.GetPicID(cell, pile, pos);
-                PrintCard(out, id, engine.table.Card(id));
+                PrintCard(out, id, engine.table().Card(id));
             }
             out << '\n';
         }
@@ -43,18 +43,18 @@ void PrintPiles(std::ostream& out, const Engine& engine) {
 }  // namespace
 
 void PrintBoard(std::ostream& out, const Engine& engine) {
-    out << "game: " << engine.data.CurGName() << '|' << engine.data.CurGNo.Shown() << '|'
-        << engine.data.GameRunning << '\n';
-    if (engine.data.GameRunning) {
+    out << "game: " << engine.data().CurGName() << '|' << engine.data().CurGNo.Shown() << '|'
+        << engine.data().GameRunning << '\n';
+    if (engine.data().GameRunning) {
         PrintPiles(out, engine);
-        ForEachSlot(engine.table, [&](const char* name, int index, const KesEmpty& slot) {
+        ForEachSlot(engine.table(), [&](const char* name, int index, const KesEmpty& slot) {
             if (!slot.Visible) return;
             out << "slot " << name << ' ' << index << ": " << slot.Picture << " @" << slot.Left
                 << ',' << slot.Top << '\n';
         });
     }
     out << "front:";
-    for (const PicID id : engine.table.VisibleCards()) out << ' ' << id;
+    for (const PicID id : engine.table().VisibleCards()) out << ' ' << id;
     out << '\n';
 }
 
@@ -69,41 +69,42 @@ void PrintLog(std::ostream& out, const Engine& engine) {
 }
 
 void PrintState(std::ostream& out, const Engine& engine) {
-    const cData& data = engine.data;
+    const cData& data = engine.data();
     out << "state: " << data.GameRunning << '|' << data.CurGName() << '|' << data.CurGNo.Shown()
         << '|' << data.CurPlayer() << '|' << data.CurTime << '|' << data.CurMoves << '|'
-        << data.CurScore << '|' << engine.trans().GetTransID() << '|' << engine.CalcScore() << '|'
-        << engine.ElapsedTime() << '\n';
+        << data.CurScore << '|' << engine.trans().GetTransID() << '|'
+        << engine.counters().CalcScore() << '|' << engine.counters().ElapsedTime() << '\n';
 }
 
 void PrintMarks(std::ostream& out, const Engine& engine) {
-    const MenuMarks marks = engine.UpdateMenus();
-    out << "marks: mFile4=" << marks.mFile4 << " mFile5=" << marks.mFile5
-        << " mFav1=" << marks.mFav1 << " mTools5=" << marks.mTools5 << " mGame1=" << marks.mGame1
-        << " mGame2=" << marks.mGame2 << " mGame6=" << marks.mGame6 << " mGame7=" << marks.mGame7
-        << " mReplay1=" << marks.mReplay1 << " mReplay2=" << marks.mReplay2
-        << " mReplay4=" << marks.mReplay4 << " mReplay6=" << marks.mReplay6
-        << " mGame4=" << marks.mGame4 << '/' << marks.mGame4Checked << " mGame9=" << marks.mGame9
-        << '/' << marks.mGame9Checked << '\n';
+    const MenuMarks marks = engine.commands().UpdateMenus();
+    out << "marks: mFile4=" << marks.Restart << " mFile5=" << marks.Close
+        << " mFav1=" << marks.AddFavorite << " mTools5=" << marks.History
+        << " mGame1=" << marks.Undo << " mGame2=" << marks.Redo << " mGame6=" << marks.UndoAll
+        << " mGame7=" << marks.RedoAll << " mReplay1=" << marks.Forward
+        << " mReplay2=" << marks.Back << " mReplay4=" << marks.ReplayAll
+        << " mReplay6=" << marks.Stop << " mGame4=" << marks.Autoplay << '/'
+        << marks.AutoplayChecked << " mGame9=" << marks.Toolbar << '/' << marks.ToolbarChecked
+        << '\n';
 }
 
 void PrintRecent(std::ostream& out, const Engine& engine) {
     out << "recent: ";
     for (std::int16_t i = 1; i <= kMaxRecent; ++i) {
-        out << (i > 1 ? "|" : "") << engine.data.GetRecent(i);
+        out << (i > 1 ? "|" : "") << engine.data().GetRecent(i);
     }
     out << '\n';
 }
 
 void PrintScores(std::ostream& out, const Engine& engine) {
-    for (const std::string& line : ReadLines(ScorePath(engine.data, engine.data.CurPlayer()))) {
+    for (const std::string& line : ReadLines(ScorePath(engine.data(), engine.data().CurPlayer()))) {
         const std::size_t comma = line.find(',');
         out << "scores: -" << (comma == std::string::npos ? "" : line.substr(comma)) << '\n';
     }
 }
 
 void PrintPlayers(std::ostream& out, const Engine& engine) {
-    const cData& data = engine.data;
+    const cData& data = engine.data();
     out << "players: ";
     for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
         const std::string name = data.GetPlayer(slot);
@@ -113,7 +114,7 @@ void PrintPlayers(std::ostream& out, const Engine& engine) {
 }
 
 void PrintHistory(std::ostream& out, const Engine& engine) {
-    if (!engine.data.GameRunning) return;
+    if (!engine.data().GameRunning) return;
     for (const HistoryRow& row : HistoryOf(engine.trans())) {
         out << "history: " << row.Number << '|' << row.Source << '|' << row.Destination << '|'
             << row.Cards;
@@ -133,7 +134,7 @@ void PrintFavorites(std::ostream& out, const Favorites& favorites, std::string_v
 }
 
 void PrintFinish(std::ostream& out, const Engine& engine) {
-    const cData& data = engine.data;
+    const cData& data = engine.data();
     out << "finish: " << data.CurGName() << '|' << data.CurGNo.Shown() << '|' << data.CurPlayer()
         << '|' << FormatTime(data.CurTime) << '|' << data.CurMoves << '|' << data.CurScore << '\n';
 }

@@ -41,7 +41,7 @@ const auto& ChoiceOf(const Choices& choices, std::string_view key) {
 
 void PrintPeriods(std::ostream& out, const Engine& engine, std::string_view key) {
     const PeriodChoice& choice = ChoiceOf(PeriodChoices(), key);
-    for (const PeriodSummary& period : PeriodRows(engine.score, choice, engine.Now())) {
+    for (const PeriodSummary& period : PeriodRows(engine.score(), choice, engine.Now())) {
         out << "dates: " << period.Label << '|' << period.Played << '|' << period.Won << '|'
             << period.Score << '|' << period.Moves << '|' << period.Time << '\n';
     }
@@ -55,7 +55,7 @@ void PrintLogReport(std::ostream& out, const Engine& engine, std::string_view ke
                            .Game = names.substr(bar + 1),
                            .Age = &ChoiceOf(AgeChoices(), key)};
     std::vector<ReportRow> rows;
-    const ScoreList& list = engine.score.List();
+    const ScoreList& list = engine.score().List();
     for (const std::uint32_t position : LogPositions(list, filter, engine.Now())) {
         const auto number = static_cast<double>(rows.size() + 1);
         rows.push_back(RowOf(list.Record(position), number, kLogFields, engine.dates()));
@@ -82,7 +82,7 @@ FinishedBy Ranking(std::string_view word) {
 
 void ScriptedTable::Report(Words& words) {
     const std::string_view what = words.Word();
-    const OpenScores open(engine_.score);
+    const OpenScores open(engine_.score());
     if (!ReportSums(what, words) && !ReportGames(what, words)) {
         throw BadLine("no such report: " + std::string(what));
     }
@@ -91,15 +91,15 @@ void ScriptedTable::Report(Words& words) {
 bool ScriptedTable::ReportSums(std::string_view what, Words& words) {
     if (what == "general") {
         words.End();
-        for (const std::string& line : GeneralLines(engine_.score.AllSummary())) {
+        for (const std::string& line : GeneralLines(engine_.score().AllSummary())) {
             out_ << "general: " << line << '\n';
         }
     } else if (what == "games") {
         words.End();
-        PrintRows(out_, "games: ", GameRows(engine_.score, engine_.data));
+        PrintRows(out_, "games: ", GameRows(engine_.score(), engine_.data()));
     } else if (what == "players") {
         words.End();
-        PrintRows(out_, "players: ", PlayerRows(engine_.score, engine_.data));
+        PrintRows(out_, "players: ", PlayerRows(engine_.score(), engine_.data()));
     } else if (what == "dates") {
         const std::string_view key = words.Word();
         words.End();
@@ -114,7 +114,7 @@ bool ScriptedTable::ReportSums(std::string_view what, Words& words) {
 }
 
 bool ScriptedTable::ReportGames(std::string_view what, Words& words) {
-    cScore& score = engine_.score;
+    cScore& score = engine_.score();
     const DateForms& dates = engine_.dates();
     if (what == "game-chart") {
         for (const auto& [points, moves, time] : FirstGames(score, words.Game())) {
@@ -142,7 +142,7 @@ bool ScriptedTable::ReportGames(std::string_view what, Words& words) {
 
 void ScriptedTable::Export(const std::string& name) {
     if (std::filesystem::path(name).has_parent_path()) throw BadLine("not a file's name: " + name);
-    engine_.ExportStat({.Path = engine_.data.AppDir() / name, .Name = name});
+    engine_.results().ExportStat({.Path = engine_.data().AppDir() / name, .Name = name});
 }
 
 bool ScriptedTable::ReportOn(std::string_view command, Words& words) {
@@ -152,7 +152,7 @@ bool ScriptedTable::ReportOn(std::string_view command, Words& words) {
         Export(words.Rest());
     } else if (command == "clear-statistics") {
         words.End();
-        if (Ask(kClearStatQuestion)) engine_.ClearStat();
+        if (Ask(kClearStatQuestion)) engine_.results().ClearStat();
     } else {
         return false;
     }

@@ -40,13 +40,13 @@ ScriptedTable::ScriptedTable(const std::filesystem::path& folder, std::ostream& 
       messages_(out),
       engine_({store_, clock_, surface_, sounds_, messages_, folder}) {
     // The won dialog: it is seen and heard with the winning move, and books when that has returned.
-    engine_.onWon = [this] {
+    engine_.life().OnWon([this] {
         PrintFinish(out_, engine_);
-        engine_.data.PlaySound(Sound::Win);
-    };
-    engine_.onMove = [this](const CardMove& move) {
+        engine_.data().PlaySound(Sound::Win);
+    });
+    engine_.OnMove([this](const CardMove& move) {
         if (trace_) PrintMove(out_, move);
-    };
+    });
     engine_.InitMain();
 }
 
@@ -68,7 +68,7 @@ void ScriptedTable::Play(std::string_view command, Words& words) {
                        Choose(command, words) || Keep(command, words) || Look(command, words) ||
                        ReportOn(command, words);
     if (!known) throw BadLine("unknown command: " + std::string(command));
-    if (engine_.phase() == Phase::Won) engine_.EndGame(Outcome::Won);
+    if (engine_.life().phase() == Phase::Won) engine_.life().EndGame(Outcome::Won);
 }
 
 bool ScriptedTable::Ask(std::string_view question) {
@@ -94,7 +94,7 @@ bool ScriptedTable::PlayClock(std::string_view command, Words& words) {
         if (seconds < 0 || !clock_.Advance(seconds)) throw BadLine("not a waiting time");
     } else if (command == "tick") {
         words.End();
-        engine_.TimeTick();
+        engine_.counters().TimeTick();
     } else {
         return false;
     }
@@ -103,7 +103,7 @@ bool ScriptedTable::PlayClock(std::string_view command, Words& words) {
 
 void ScriptedTable::SetPlayer(const std::string& name) {
     if (!IsPlayerName(name)) throw BadLine("not a player's name: " + name);
-    cData& data = engine_.data;
+    cData& data = engine_.data();
     if (data.FindPlayer(name) == 0 && !data.AddPlayer(name)) throw BadLine("too many players");
     data.CurPlayer(name);
 }
@@ -112,18 +112,18 @@ bool ScriptedTable::PlayLife(std::string_view command, Words& words) {
     if (command == "set") {
         const std::string_view key = words.Word();
         const std::string value = words.Rest();
-        if (!engine_.data.SetText(key, value)) throw BadLine("no such setting or value");
+        if (!engine_.data().SetText(key, value)) throw BadLine("no such setting or value");
     } else if (command == "player") {
         SetPlayer(words.Rest());
     } else if (command == "start") {
         const GameNumber number = words.Number();
-        engine_.StartGame(words.Game(), number);
+        engine_.life().StartGame(words.Game(), number);
     } else if (command == "restart") {
         words.End();
-        engine_.RestartGame();
+        engine_.commands().RestartGame();
     } else if (command == "close") {
         words.End();
-        engine_.CloseGame();
+        engine_.commands().CloseGame();
     } else {
         return false;
     }
@@ -131,14 +131,14 @@ bool ScriptedTable::PlayLife(std::string_view command, Words& words) {
 }
 
 void ScriptedTable::Press(PicID id) {
-    if (!engine_.table.Card(id).Visible) return;
+    if (!engine_.table().Card(id).Visible) return;
     pressed_ = id;
     engine_.gestures().MouseDown(id, kGripX, kGripY);
 }
 
 void ScriptedTable::Drag(std::int16_t left, std::int16_t top) {
     if (!engine_.gestures().Dragging()) return;
-    const KesCard& card = engine_.table.Card(pressed_);
+    const KesCard& card = engine_.table().Card(pressed_);
     engine_.gestures().MouseMove(pressed_, left - card.Left + kGripX, top - card.Top + kGripY);
 }
 
@@ -147,7 +147,7 @@ void ScriptedTable::Release() {
 }
 
 void ScriptedTable::Slot() {
-    if (engine_.table.PicStock[0].Visible) engine_.gestures().StockClick();
+    if (engine_.table().PicStock[0].Visible) engine_.gestures().StockClick();
 }
 
 bool ScriptedTable::PlayGestures(std::string_view command, Words& words) {
@@ -168,7 +168,7 @@ bool ScriptedTable::PlayGestures(std::string_view command, Words& words) {
         const auto left = words.Whole<std::int16_t>();
         const auto top = words.Whole<std::int16_t>();
         words.End();
-        if (!engine_.table.Card(id).Visible) return true;
+        if (!engine_.table().Card(id).Visible) return true;
         Press(id);
         Drag(left, top);
         Release();
@@ -182,28 +182,28 @@ bool ScriptedTable::PlayGestures(std::string_view command, Words& words) {
 }
 
 void ScriptedTable::Replay(std::string_view what) {
-    if (what == "forward") return engine_.ReplayForward();
-    if (what == "back") return engine_.ReplayBack();
-    if (what == "all") return engine_.ReplayAll();
-    if (what == "stop") return engine_.StopReplay();
+    if (what == "forward") return engine_.commands().ReplayForward();
+    if (what == "back") return engine_.commands().ReplayBack();
+    if (what == "all") return engine_.commands().ReplayAll();
+    if (what == "stop") return engine_.commands().StopReplay();
     throw BadLine("no such replay command: " + std::string(what));
 }
 
 bool ScriptedTable::PlayCommands(std::string_view command, Words& words) {
-    using Command = void (Engine::*)();
+    using Command = void (*)(Engine&);
     static constexpr std::array<std::pair<std::string_view, Command>, 7> kCommands{{
-        {"undo", &Engine::Undo},
-        {"redo", &Engine::Redo},
-        {"undoall", &Engine::UndoAll},
-        {"redoall", &Engine::RedoAll},
-        {"autoplay", &Engine::ToggleAutoplay},
-        {"forward", &Engine::ForwardTick},
-        {"back", &Engine::BackwardTick},
+        {"undo", [](Engine& engine) { engine.commands().Undo(); }},
+        {"redo", [](Engine& engine) { engine.commands().Redo(); }},
+        {"undoall", [](Engine& engine) { engine.commands().UndoAll(); }},
+        {"redoall", [](Engine& engine) { engine.commands().RedoAll(); }},
+        {"autoplay", [](Engine& engine) { engine.commands().ToggleAutoplay(); }},
+        {"forward", [](Engine& engine) { engine.replay().ForwardTick(); }},
+        {"back", [](Engine& engine) { engine.replay().BackwardTick(); }},
     }};
     for (const auto& [name, run] : kCommands) {
         if (command != name) continue;
         words.End();
-        (engine_.*run)();
+        run(engine_);
         return true;
     }
     if (command != "replay") return false;

@@ -34,7 +34,7 @@ class ChoosersTest : public QObject {
 private Q_SLOTS:
     void ANumberIsTypedOverAndComplainedAbout() {
         WindowFixture fixture;
-        fixture.engine().data.Set(keys::RangeIndex, 5);
+        fixture.engine().data().Set(keys::RangeIndex, 5);
         QString told;
         WhenOpen<NumberDialog>([&](NumberDialog& dialog) {
             QVERIFY(dialog.number()->hasSelectedText());
@@ -49,11 +49,11 @@ private Q_SLOTS:
             QCOMPARE(dialog.number()->text(), "1e3");
             QTest::keyClick(&dialog, Qt::Key_Return);
         });
-        fixture.window.menu().mFile(7)->trigger();
+        fixture.window.menu().mFile(FileItem::Number)->trigger();
         QCOMPARE(told, "Please enter a number between 0 and 99,999");
-        QVERIFY(fixture.engine().data.GameRunning);
-        QCOMPARE(fixture.engine().data.CurGNo.Shown(), "1e3");
-        QCOMPARE(fixture.engine().data.CurGName(), "Avenue");
+        QVERIFY(fixture.engine().data().GameRunning);
+        QCOMPARE(fixture.engine().data().CurGNo.Shown(), "1e3");
+        QCOMPARE(fixture.engine().data().CurGName(), "Avenue");
     }
 
     void FavoritesArePlayedAndCleared() {
@@ -61,17 +61,17 @@ private Q_SLOTS:
         fixture.Start("Penguin", 5);
         QString told;
         AcceptBox(told);
-        QTRY_VERIFY(fixture.window.menu().mFav(1)->isEnabled());
-        fixture.window.menu().mFav(1)->trigger();
+        QTRY_VERIFY(fixture.window.menu().mFav(FavItem::Add)->isEnabled());
+        fixture.window.menu().mFav(FavItem::Add)->trigger();
         QTRY_COMPARE(told, "Game <5> Successfully Added to Favorites Under <Penguin> Folder");
-        fixture.engine().favorites.AddFav("Penguin", GameNumber::Text("77"));
+        fixture.engine().favorites().AddFav("Penguin", GameNumber::Text("77"));
         WhenOpen<PlayFavoriteDialog>([](PlayFavoriteDialog& dialog) {
             QCOMPARE(Texts(dialog.numbers()), (QStringList{"5", "77"}));
             QCOMPARE(dialog.numbers()->currentRow(), 1);
             QTest::mouseClick(dialog.play(), Qt::LeftButton);
         });
-        fixture.window.menu().mFav(4)->trigger();
-        QCOMPARE(fixture.engine().data.CurGNo.Field(), "\"77\"");
+        fixture.window.menu().mFav(FavItem::Play)->trigger();
+        QCOMPARE(fixture.engine().data().CurGNo.Field(), "\"77\"");
         WhenOpen<OrganizeFavoritesDialog>([](OrganizeFavoritesDialog& dialog) {
             QCOMPARE(dialog.games()->currentItem()->text(), "Penguin");
             QTest::mouseClick(dialog.clear(), Qt::LeftButton);
@@ -79,12 +79,12 @@ private Q_SLOTS:
             QTRY_VERIFY(!dialog.clear()->isEnabled());
             dialog.reject();
         });
-        fixture.window.menu().mFav(2)->trigger();
+        fixture.window.menu().mFav(FavItem::Organize)->trigger();
         WhenOpen<PlayFavoriteDialog>([](PlayFavoriteDialog& dialog) {
             QVERIFY(!dialog.play()->isEnabled());
             dialog.reject();
         });
-        fixture.window.menu().mFav(4)->trigger();
+        fixture.window.menu().mFav(FavItem::Play)->trigger();
     }
 
     void AFullFavoritesFileOpensAtOnce() {
@@ -123,7 +123,7 @@ private Q_SLOTS:
                 QTest::keyClick(&input, Qt::Key_Return);
             });
             QTest::mouseClick(dialog.Button("Edit"), Qt::LeftButton);
-            QCOMPARE(fixture.engine().data.CurPlayer(), "Zo");
+            QCOMPARE(fixture.engine().data().CurPlayer(), "Zo");
             dialog.players()->setCurrentRow(1);
             QVERIFY(dialog.Button("Delete")->isEnabled());
             AcceptBox(told);
@@ -133,19 +133,19 @@ private Q_SLOTS:
             QVERIFY(!dialog.Button("Delete")->isEnabled());
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
-        fixture.window.menu().mTools(3)->trigger();
-        QCOMPARE(fixture.engine().data.TotalPlayers(), 1);
+        fixture.window.menu().mTools(ToolsItem::Players)->trigger();
+        QCOMPARE(fixture.engine().data().TotalPlayers(), 1);
     }
 
     void TheHistoryTellsAppliedAndUndoneMoves() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
         for (const std::int16_t pile : {std::int16_t{0}, std::int16_t{1}, std::int16_t{2}}) {
-            const KesEmpty& slot = fixture.engine().table.PicRes[static_cast<std::size_t>(pile)];
+            const KesEmpty& slot = fixture.engine().table().PicRes[static_cast<std::size_t>(pile)];
             fixture.Drag(fixture.Top(Cell::Home, pile),
                          fixture.At(slot.Left + 532, slot.Top + 720));
         }
-        fixture.engine().Undo();
+        fixture.engine().commands().Undo();
         HistoryDialog dialog(fixture.engine().trans(), &fixture.window);
         const QTreeWidget* list = dialog.list();
         QCOMPARE(list->topLevelItemCount(), 3);

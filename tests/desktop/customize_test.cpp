@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void CancelDropsAndOkStores() {
         WindowFixture fixture;
-        cData& data = fixture.engine().data;
+        cData& data = fixture.engine().data();
         CustomizeDialog cancelled(fixture.engine(), &fixture.window);
         ChangeEverything(cancelled);
         for (QCheckBox* box : cancelled.findChildren<QCheckBox*>()) {
@@ -82,7 +82,7 @@ private Q_SLOTS:
             QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
                               Qt::LeftButton);
         });
-        fixture.window.menu().mTools(1)->trigger();
+        fixture.window.menu().mTools(ToolsItem::Customize)->trigger();
         QCOMPARE(data.Get(keys::BGIndex), 2);
         QCOMPARE(data.Get(keys::DeckIndex), 544);
         QCOMPARE(data.Get(keys::Fade), 1);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         });
         dialog.clearRecent()->click();
         QVERIFY(!dialog.clearRecent()->isEnabled());
-        QCOMPARE(fixture.engine().data.RecentCount(), 0);
+        QCOMPARE(fixture.engine().data().RecentCount(), 0);
         QCOMPARE(asked.value(1), "Are you sure you want to clear the Recent Games List ?");
         QTRY_COMPARE(asked.value(2), "Recent Games List has been Cleared.");
     }

@@ -40,16 +40,16 @@ public:
 
     std::string Folder() const { return folder.path().toStdString() + "/data"; }
     varnello::Engine& engine() { return window.engine(); }
-    const varnello::KesCard& Card(varnello::PicID id) { return engine().table.Card(id); }
+    const varnello::KesCard& Card(varnello::PicID id) { return engine().table().Card(id); }
     varnello::PicID Top(varnello::Cell cell, int pile) {
         return engine().array().GetTopPicID(cell, pile);
     }
 
     void Start(const char* game, double number = 1) {
-        engine().StartGame(game, varnello::GameNumber::Number(number));
+        engine().life().StartGame(game, varnello::GameNumber::Number(number));
     }
     void StartWithoutAutoplay(const char* game, double number = 1) {
-        engine().data.Set(varnello::keys::Autoplay, 0);
+        engine().data().Set(varnello::keys::Autoplay, 0);
         Start(game, number);
     }
 

@@ -41,24 +41,22 @@ private Q_SLOTS:
 
     void TheFactsFitTheDeal() {
         NullDesktop nothing;
-        Engine engine(nothing.Interfaces({}));
-        engine.data.Set(keys::Autoplay, 0);
         for (const GameRow& row : kCatalogue) {
-            engine.StartGame(std::string(row.Name), GameNumber::Number(3));
+            Engine engine(nothing.Interfaces({}));
+            engine.data().Set(keys::Autoplay, 0);
+            engine.life().StartGame(std::string(row.Name), GameNumber::Number(3));
             QCOMPARE(engine.array().GetTop(Cell::Stock, 0) + 1, CardsLeftOnStock(row));
-            engine.data.GameRunning = false;
-            engine.table.Clear();
         }
     }
 
     void F1OpensTheContentsOrTheGamesRules() {
         WindowFixture fixture;
-        fixture.window.menu().mHelp(1)->trigger();
+        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
         HelpWindow* help = Help();
         QVERIFY(help);
         QVERIFY(help->windowTitle().startsWith("Contents"));
         fixture.Start("Baker's Game");
-        fixture.window.menu().mHelp(1)->trigger();
+        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
         QVERIFY(help->windowTitle().startsWith("Baker's Game"));
         QVERIFY(help->browser()->toPlainText().contains("only a King"));
         // A link to another page, and back to where it stood.

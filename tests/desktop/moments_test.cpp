@@ -48,17 +48,17 @@ public:
         QTest::keyClick(&window, key.key(), key.keyboardModifiers());
     }
     void Bring(Moment moment) {
-        engine().data.Set(keys::Autoplay, 0);
-        engine().data.Set(keys::UndoallSpeed, 50);
-        engine().data.Set(keys::ReplaySpeed, 50);
-        engine().selectGame = SelectHearts;
+        engine().data().Set(keys::Autoplay, 0);
+        engine().data().Set(keys::UndoallSpeed, 50);
+        engine().data().Set(keys::ReplaySpeed, 50);
+        engine().life().SelectBy(SelectHearts);
         Start("Freecell", 7);
         QTRY_VERIFY(Seen() > 3);
         if (moment == Deal) return;
         window.motion().Finish();
         for (int i = 0; i < 3; ++i) {
             window.motion().Finish();
-            Drag(Top(Cell::Home, i), At(engine().table.PicRes[std::size_t(i)].Left + 532, 1000));
+            Drag(Top(Cell::Home, i), At(engine().table().PicRes[std::size_t(i)].Left + 532, 1000));
         }
         QVERIFY(window.motion().Showing());
         if (moment == Flight) return;
@@ -72,7 +72,7 @@ public:
             return;
         }
         window.motion().Finish();
-        engine().data.CurMoves = 0;
+        engine().data().CurMoves = 0;
         Key(Qt::Key_F7);
         QVERIFY(window.motion().Showing());
         if (moment == Breath) window.motion().Finish();
@@ -84,7 +84,7 @@ public:
         QStringList told;
         for (const std::string& line : Scores()) told << (line.ends_with(",1") ? "won" : "lost");
         const char* const phases[] = {"idle", "dealing", "playing", "won"};
-        told << phases[int(engine().phase())];
+        told << phases[int(engine().life().phase())];
         if (window.select()) opened << "varnello::SelectDialog";
         for (const QString& name : opened) told << name.mid(int(strlen("varnello::")));
         return told.join(' ');
@@ -183,7 +183,8 @@ const std::vector<Row>& Rows() {
         {"Game Statistics", Press(Qt::Key_F4),
          opens("playing GameStatDialog", "playing GameStatDialog",
                "won idle GameStatDialog FinishDialog")},
-        {"Session Statistics", Item([](const MainMenu& menu) { return menu.mStat(2); }),
+        {"Session Statistics",
+         Item([](const MainMenu& menu) { return menu.mStat(StatItem::Session); }),
          opens("playing SessionDialog", "playing SessionDialog",
                "won idle SessionDialog FinishDialog")},
         {"Customize", Press(Qt::CTRL | Qt::Key_U),
@@ -230,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(paced.Outcome(), expected);
         if (closed.count() > 0) return;
         paced.window.motion().Finish();
-        QVERIFY2(LooksSame(paced.window.motion().Scene(), paced.engine().table),
+        QVERIFY2(LooksSame(paced.window.motion().Scene(), paced.engine().table()),
                  "the window shows another table than the engine has");
     }
 
@@ -238,7 +239,7 @@ private Q_SLOTS:
         Paced paced;
         paced.Bring(Flight);
         paced.window.motion().Finish();
-        paced.engine().data.Set(keys::UndoSpeed, 50);
+        paced.engine().data().Set(keys::UndoSpeed, 50);
         const auto key = [&](bool repeated) {
             // The way of a real key: first as a shortcut, then, if it was none, as itself.
             QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier, {}, repeated);
@@ -272,10 +273,10 @@ private Q_SLOTS:
                     QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
                 }
             }
-            const int running = paced.engine().data.GameRunning ? 1 : 0;
+            const int running = paced.engine().data().GameRunning ? 1 : 0;
             paced.window.close();
-            QCOMPARE(paced.engine().score.SesTop(), int(paced.Scores().size()));
-            QVERIFY(!paced.engine().data.GameRunning);
+            QCOMPARE(paced.engine().score().SesTop(), int(paced.Scores().size()));
+            QVERIFY(!paced.engine().data().GameRunning);
             games += int(paced.Scores().size()) + running;
         }
         QVERIFY(games > 100);

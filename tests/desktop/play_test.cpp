@@ -30,7 +30,7 @@ private Q_SLOTS:
     void FollowsTheMouseAndGoesBackInSilence() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.engine().data.Set(keys::SoundCardUp, -1);
+        fixture.engine().data().Set(keys::SoundCardUp, -1);
         fixture.sounds.heard.clear();
         const PicID card = fixture.Top(Cell::Home, 7);
         const double left = fixture.Card(card).Left;
@@ -76,7 +76,7 @@ private Q_SLOTS:
             {"a dialog",
              [](WindowFixture& f) {
                  WhenOpen<QDialog>([](QDialog& dialog) { dialog.reject(); });
-                 f.window.menu().mStat(1)->trigger();
+                 f.window.menu().mStat(StatItem::Game)->trigger();
              }},
             {"a hidden window", [](WindowFixture& f) { f.window.hide(); }},
             {"a lost grab", [](WindowFixture& f) {
@@ -100,18 +100,18 @@ private Q_SLOTS:
 
     void AClickOnTheStocksSlotTurnsTheWasteBack() {
         WindowFixture fixture;
-        fixture.engine().selectGame = [](cGames& games, const std::string&) {
+        fixture.engine().life().SelectBy([](cGames& games, const std::string&) {
             GameRow row = *FindGame("Cascade");
             row.Stock.StockNum = StockNum::Redeal;
             SelectRow(games, row);
-        };
+        });
         fixture.StartWithoutAutoplay("Cascade");
         while (fixture.engine().array().GetTop(Cell::Stock, 0) >= 0) {
             const QPoint at = fixture.CentreOf(fixture.Top(Cell::Stock, 0));
             fixture.Press(at);
             fixture.Release(at);
         }
-        const KesEmpty& slot = fixture.engine().table.PicStock[0];
+        const KesEmpty& slot = fixture.engine().table().PicStock[0];
         const QPoint at = fixture.At(slot.Left + 500, slot.Top + 700);
         fixture.Press(at);
         QCOMPARE(fixture.engine().array().GetTop(Cell::Stock, 0), -1);

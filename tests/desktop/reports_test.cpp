@@ -93,8 +93,8 @@ private Q_SLOTS:
             QCOMPARE(log->model()->rowCount(), 0);
             dialog.reject();
         });
-        fixture.window.menu().mStat(6)->trigger();
-        QCOMPARE(fixture.engine().score.ScoreTop(), 0);
+        fixture.window.menu().mStat(StatItem::Log)->trigger();
+        QCOMPARE(fixture.engine().score().ScoreTop(), 0);
     }
 
     void StatisticsKeepTheirFiguresWhenClearedAndReloadAfterAnExport() {
@@ -130,7 +130,7 @@ private Q_SLOTS:
             QVERIFY(chart->accessibleDescription().contains("Won : 1"));
             dialog.reject();
         });
-        fixture.window.menu().mStat(1)->trigger();
+        fixture.window.menu().mStat(StatItem::Game)->trigger();
         QCOMPARE(told, QStringList{"Statistics Successfully Exported to " + file});
         QVERIFY(QFile::exists(file));
         QVERIFY(!QFile::exists(QString::fromStdString(fixture.Folder()) + "/Player1.sre"));
@@ -150,13 +150,13 @@ private Q_SLOTS:
             QVERIFY(!won->model()->index(0, 3).data(Qt::FontRole).value<QFont>().bold());
             dialog.reject();
         });
-        fixture.window.menu().mStat(4)->trigger();
+        fixture.window.menu().mStat(StatItem::HighScore)->trigger();
     }
 
     void TheRunningGameIsLive() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.engine().EndGame(Outcome::NotWon);
+        fixture.engine().life().EndGame(Outcome::NotWon);
         fixture.Start("Freecell", 2);
         WhenOpen<SessionDialog>([&](SessionDialog& dialog) {
             const auto close = qScopeGuard([&] { dialog.reject(); });
@@ -174,14 +174,14 @@ private Q_SLOTS:
             Captioned<QLabel>(dialog, "Score : -20");
             Captioned<QLabel>(dialog, "Games Played : 1");
         });
-        fixture.window.menu().mStat(2)->trigger();
+        fixture.window.menu().mStat(StatItem::Session)->trigger();
     }
 
     void TheWonDialogShowsTheWinInBothWindows() {
         WindowFixture fixture;
         fixture.Start("Freecell");
-        fixture.engine().data.GameWon = true;
-        fixture.engine().data.CurScore = 77;
+        fixture.engine().data().GameWon = true;
+        fixture.engine().data().CurScore = 77;
         bool told = false;
         WhenOpen<FinishDialog>([&](FinishDialog& finish) {
             WhenOpen<GameStatDialog>([](GameStatDialog& dialog) {
@@ -200,10 +200,10 @@ private Q_SLOTS:
         });
         // A window that shows results shows this one as well; the dialog waits until it is closed.
         WhenOpen<GameStatDialog>([&](GameStatDialog& dialog) {
-            QVERIFY(!fixture.engine().data.GameRunning && !told);
+            QVERIFY(!fixture.engine().data().GameRunning && !told);
             dialog.reject();
         });
-        fixture.window.menu().mStat(1)->trigger();
+        fixture.window.menu().mStat(StatItem::Game)->trigger();
         QTRY_VERIFY(told);
     }
 };

@@ -76,7 +76,7 @@ public:
         const KesCard& card = Card(id);
         for (const int x : {532, 30, 1030}) {
             for (const int y : {720, 60, 1400}) {
-                if (engine().table.CardAt(card.Left + x, card.Top + y) == id) return {x, y};
+                if (engine().table().CardAt(card.Left + x, card.Top + y) == id) return {x, y};
             }
         }
         return {-1, -1};
@@ -118,7 +118,7 @@ private:
         return true;
     }
     bool ClickSlot() {
-        const KesEmpty& slot = engine().table.PicStock[0];
+        const KesEmpty& slot = engine().table().PicStock[0];
         if (!slot.Visible || engine().array().GetTop(Cell::Stock, 0) >= 0) return true;
         Send(QEvent::MouseButtonPress, slot.Left + 500, slot.Top + 700, Qt::LeftButton);
         Send(QEvent::MouseButtonRelease, slot.Left + 500, slot.Top + 700, Qt::NoButton);
@@ -167,22 +167,22 @@ private Q_SLOTS:
         player.window.SetBreath(60000);
         Script script;
         for (const std::string& line : ReadLines(file.toStdString())) {
-            if (player.engine().phase() == Phase::Won) break;
+            if (player.engine().life().phase() == Phase::Won) break;
             const QStringList words = QString::fromStdString(line).split(' ');
             if (words[0] == "start") {
-                player.engine().StartGame(words.mid(2).join(' ').toStdString(),
-                                          *GameNumber::ParseBare(words[1].toStdString()));
+                player.engine().life().StartGame(words.mid(2).join(' ').toStdString(),
+                                                 *GameNumber::ParseBare(words[1].toStdString()));
             } else if (words[0] == "set") {
-                player.engine().data.SetText(words[1].toStdString(), words[2].toStdString());
+                player.engine().data().SetText(words[1].toStdString(), words[2].toStdString());
             } else if (!player.Do(line)) {
                 continue;
             }
             script.Run(line);
             player.window.motion().Finish();
-            if (player.engine().phase() == Phase::Won) break;
+            if (player.engine().life().phase() == Phase::Won) break;
             QCOMPARE(player.Told(), script.Told());
         }
-        QVERIFY2(player.engine().phase() == Phase::Won, "the window didn't see the win");
+        QVERIFY2(player.engine().life().phase() == Phase::Won, "the window didn't see the win");
         QVERIFY(player.ScreenIsTrue());
     }
 
@@ -205,21 +205,21 @@ private Q_SLOTS:
             Script script;
             const int number = below(99999) + 1;
             const int autoplay = below(2);
-            player.engine().data.Set(keys::Autoplay, Narrow16(autoplay));
-            player.engine().StartGame(name, GameNumber::Number(number));
+            player.engine().data().Set(keys::Autoplay, Narrow16(autoplay));
+            player.engine().life().StartGame(name, GameNumber::Number(number));
             script.Run("set Autoplay " + std::to_string(autoplay));
             script.Run("start " + std::to_string(number) + " " + name);
-            for (int act = 0; act < 40 && player.engine().phase() != Phase::Idle; ++act) {
+            for (int act = 0; act < 40 && player.engine().life().phase() != Phase::Idle; ++act) {
                 player.window.motion().Finish();
-                if (player.engine().phase() == Phase::Won) return;
+                if (player.engine().life().phase() == Phase::Won) return;
                 const std::string line = SomeLine(player, below);
                 QVERIFY(player.Do(line));
                 script.Run(line);
                 const std::string told = player.Told();
-                if (player.engine().phase() == Phase::Won) return;
+                if (player.engine().life().phase() == Phase::Won) return;
                 QVERIFY2(told == script.Told(),
                          (line + "\nwindow:\n" + told + "script:\n" + script.Told()).c_str());
-                QVERIFY2(LooksSame(player.window.motion().Scene(), player.engine().table),
+                QVERIFY2(LooksSame(player.window.motion().Scene(), player.engine().table()),
                          line.c_str());
                 if (act % 8 == 7) QVERIFY2(player.ScreenIsTrue(), line.c_str());
             }
@@ -231,7 +231,7 @@ private:
     std::string SomeLine(WindowPlayer& player, Below below) {
         static const char* const kCommands[] = {"undo",    "undo",     "redo", "undoall",
                                                 "redoall", "autoplay", "slot", "restart"};
-        const auto cards = player.engine().table.VisibleCards();
+        const auto cards = player.engine().table().VisibleCards();
         if (below(5) == 0) return kCommands[below(int(std::size(kCommands)))];
         for (int tries = 0; tries < 50; ++tries) {
             const PicID card = cards[std::size_t(below(int(cards.size())))];

@@ -56,7 +56,7 @@ private Q_SLOTS:
 
     void AFirstRunHasAPlayerAndAFolder() {
         WindowFixture fixture;
-        QCOMPARE(fixture.engine().data.CurPlayer(), "Player1");
+        QCOMPARE(fixture.engine().data().CurPlayer(), "Player1");
         QVERIFY(std::filesystem::is_directory(fixture.Folder()));
         QCOMPARE(fixture.window.windowTitle(), "Varnello");
     }
@@ -70,14 +70,14 @@ private Q_SLOTS:
             NullDesktop nothing;
             Engine engine({nothing.settings, clock, nothing.surface, nothing.sounds,
                            nothing.messages, std::filesystem::path()});
-            numbers += engine.RandomGNo().Value();
+            numbers += engine.choosing().RandomGNo().Value();
         }
         QCOMPARE(numbers.size(), 20);
     }
 
     void TheSelectorStartsTheChosenGameForTheChosenPlayer() {
         WindowFixture fixture;
-        fixture.engine().data.AddPlayer("Ann");
+        fixture.engine().data().AddPlayer("Ann");
         fixture.window.ShowSelect();
         SelectDialog* select = fixture.window.select();
         QCOMPARE(select->tree()->currentItem()->text(0), "Avenue");
@@ -86,9 +86,9 @@ private Q_SLOTS:
         select->tree()->setCurrentItem(select->tree()->topLevelItem(0)->child(24));
         select->players()->setCurrentText("Ann");
         QTest::mouseClick(select->play(), Qt::LeftButton);
-        QVERIFY(fixture.engine().data.GameRunning);
-        QCOMPARE(fixture.engine().data.CurGName(), "Penguin");
-        QCOMPARE(fixture.engine().data.CurPlayer(), "Ann");
+        QVERIFY(fixture.engine().data().GameRunning);
+        QCOMPARE(fixture.engine().data().CurGName(), "Penguin");
+        QCOMPARE(fixture.engine().data().CurPlayer(), "Ann");
         QTRY_VERIFY(fixture.window.windowTitle().startsWith("Varnello [Penguin] [Ann] ["));
         QTRY_VERIFY(!fixture.window.select());
     }
@@ -97,20 +97,23 @@ private Q_SLOTS:
         WindowFixture fixture;
         const MainMenu& menu = fixture.window.menu();
         const Toolbar& toolbar = fixture.window.toolbar();
-        QVERIFY(menu.mFile(1)->isEnabled() && !menu.mFile(4)->isEnabled());
+        QVERIFY(menu.mFile(FileItem::New)->isEnabled() &&
+                !menu.mFile(FileItem::Restart)->isEnabled());
         QVERIFY(menu.mRecent(1)->isVisible() && !menu.mRecent(2)->isVisible());
         fixture.StartWithoutAutoplay("Freecell");
-        QTRY_VERIFY(menu.mFile(4)->isEnabled() && menu.mFile(5)->isEnabled());
-        QVERIFY(!menu.mGame(1)->isEnabled() && !toolbar.Button(5)->isChecked());
+        QTRY_VERIFY(menu.mFile(FileItem::Restart)->isEnabled() &&
+                    menu.mFile(FileItem::Close)->isEnabled());
+        QVERIFY(!menu.mGame(GameItem::Undo)->isEnabled() && !toolbar.Button(5)->isChecked());
         QCOMPARE(menu.mRecent(1)->text(), "&1 Freecell");
         fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
-        QTRY_VERIFY(menu.mGame(1)->isEnabled() && toolbar.Button(7)->isEnabled());
+        QTRY_VERIFY(menu.mGame(GameItem::Undo)->isEnabled() && toolbar.Button(7)->isEnabled());
         QTest::mouseClick(toolbar.Button(7), Qt::LeftButton);
         QCOMPARE(fixture.engine().trans().GetTransID(), 0);
-        QTRY_VERIFY(menu.mGame(2)->isEnabled() && !menu.mGame(1)->isEnabled());
+        QTRY_VERIFY(menu.mGame(GameItem::Redo)->isEnabled() &&
+                    !menu.mGame(GameItem::Undo)->isEnabled());
         QTRY_COMPARE(menu.Counters()->text(), "Score :0     Time :0:00:00     Moves :0");
-        menu.mFile(5)->trigger();
-        QTRY_VERIFY(!menu.mFile(5)->isEnabled());
+        menu.mFile(FileItem::Close)->trigger();
+        QTRY_VERIFY(!menu.mFile(FileItem::Close)->isEnabled());
         QTRY_COMPARE(menu.Counters()->text(), "");
     }
 
@@ -119,13 +122,14 @@ private Q_SLOTS:
         fixture.StartWithoutAutoplay("Freecell");
         fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
         const MainMenu& menu = fixture.window.menu();
-        QTRY_VERIFY(menu.mReplay(4)->isEnabled());
-        menu.mReplay(4)->trigger();
+        QTRY_VERIFY(menu.mReplay(ReplayItem::All)->isEnabled());
+        menu.mReplay(ReplayItem::All)->trigger();
         QCOMPARE(fixture.engine().trans().GetTransID(), 0);
-        QTRY_VERIFY(!menu.mGame(2)->isEnabled());
+        QTRY_VERIFY(!menu.mGame(GameItem::Redo)->isEnabled());
         QTRY_COMPARE(fixture.engine().trans().GetTransID(), 1);
-        QTRY_VERIFY(menu.mReplay(6)->isEnabled());
-        QTRY_VERIFY(!menu.mReplay(6)->isEnabled() && menu.mGame(1)->isEnabled());
+        QTRY_VERIFY(menu.mReplay(ReplayItem::Stop)->isEnabled());
+        QTRY_VERIFY(!menu.mReplay(ReplayItem::Stop)->isEnabled() &&
+                    menu.mGame(GameItem::Undo)->isEnabled());
     }
 
     void TheTableStaysInTheMiddle() {
@@ -133,7 +137,7 @@ private Q_SLOTS:
         TableView& table = fixture.window.table();
         const QWidget* client = fixture.window.centralWidget();
         QCOMPARE(table.geometry(), QRect(0, 25, client->width(), client->height() - 25));
-        fixture.window.menu().mGame(9)->trigger();
+        fixture.window.menu().mGame(GameItem::Toolbar)->trigger();
         QCOMPARE(table.geometry(), client->rect());
         fixture.window.resize(600, 500);
         fixture.Start("Freecell");
@@ -154,12 +158,12 @@ private Q_SLOTS:
 
     void AWonGameShowsItsResultAndGoesOn() {
         WindowFixture fixture;
-        fixture.engine().selectGame = SelectAlmostWon;
+        fixture.engine().life().SelectBy(SelectAlmostWon);
         fixture.StartWithoutAutoplay("Stripped Freecell", 7);
         QString frame;
         QStringList lines;
         WhenOpen<FinishDialog>([&](FinishDialog& dialog) {
-            QVERIFY(!fixture.engine().data.GameRunning);
+            QVERIFY(!fixture.engine().data().GameRunning);
             frame = dialog.findChild<QGroupBox*>()->title();
             const auto* list = dialog.findChild<QListWidget*>();
             for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text();
@@ -168,13 +172,13 @@ private Q_SLOTS:
             for (int i = 0; i < 2; ++i) QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);  // Restart Game
         });
-        fixture.engine().ToggleAutoplay();  // the last card goes up at once
+        fixture.engine().commands().ToggleAutoplay();  // the last card goes up at once
         QTRY_COMPARE(frame, "Stripped Freecell");
         QCOMPARE(lines.value(0), " Game : 7");
         QCOMPARE(lines.value(1), " Player : Player1");
         QCOMPARE(lines.size(), 5);
         QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Stripped Freecell\",7,0,0,0,1"});
-        QCOMPARE(fixture.engine().data.CurGNo.Shown(), "7");
+        QCOMPARE(fixture.engine().data().CurGNo.Shown(), "7");
     }
 
     void AResultThatCantBeWrittenIsTold() {
@@ -186,9 +190,9 @@ private Q_SLOTS:
             told = box.text();
             box.accept();
         });
-        fixture.engine().CloseGame();
+        fixture.engine().commands().CloseGame();
         QTRY_VERIFY(told.contains("/Player1.sre"));
-        QVERIFY(!fixture.engine().data.GameRunning);
+        QVERIFY(!fixture.engine().data().GameRunning);
     }
 };
 

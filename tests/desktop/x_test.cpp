@@ -30,8 +30,8 @@ public:
     void Drop(PicID card, int left, int top) {
         const QPoint grip = Grip(card);
         const QPoint from = PointOn(card, grip);
-        const QPoint by((left - qRound(engine_.table.Card(card).Left)) / 15,
-                        (top - qRound(engine_.table.Card(card).Top)) / 15);
+        const QPoint by((left - qRound(engine_.table().Card(card).Left)) / 15,
+                        (top - qRound(engine_.table().Card(card).Top)) / 15);
         xdotool(MoveTo(view_, from) + QStringList{"mousedown", "1"} + MoveTo(view_, from + by / 2) +
                 MoveTo(view_, from + by) + QStringList{"mouseup", "1"});
     }
@@ -42,9 +42,9 @@ public:
 private:
     /// A point inside the card, in twips, that no other card covers.
     QPoint Grip(PicID id) const {
-        const KesCard& card = engine_.table.Card(id);
+        const KesCard& card = engine_.table().Card(id);
         for (const QPoint at : {QPoint(532, 720), QPoint(532, 120), QPoint(90, 720)}) {
-            if (engine_.table.CardAt(card.Left + at.x(), card.Top + at.y()) == id) return at;
+            if (engine_.table().CardAt(card.Left + at.x(), card.Top + at.y()) == id) return at;
         }
         return {532, 720};
     }
@@ -80,23 +80,23 @@ private Q_SLOTS:
 
         // By the menu, with the keyboard: File, New Game.
         xdotool({"key", "alt+f", "n"});
-        QTRY_VERIFY(window.engine().data.GameRunning);
-        QCOMPARE(window.engine().data.CurGName(), "Freecell");
+        QTRY_VERIFY(window.engine().data().GameRunning);
+        QCOMPARE(window.engine().data().CurGName(), "Freecell");
 
         // Two cards to the reserve by dragging, and one of them back by the menu's key.
         MousePlayer player(window);
         for (const std::int16_t pile : {std::int16_t{0}, std::int16_t{1}}) {
             const PicID card = window.engine().array().GetTopPicID(Cell::Home, pile);
-            const KesEmpty& slot = window.engine().table.PicRes[static_cast<std::size_t>(pile)];
+            const KesEmpty& slot = window.engine().table().PicRes[static_cast<std::size_t>(pile)];
             player.Drop(card, slot.Left, slot.Top);
-            QTRY_COMPARE(window.engine().table.Card(card).Loc, (Place{Cell::Res, pile, 0}));
+            QTRY_COMPARE(window.engine().table().Card(card).Loc, (Place{Cell::Res, pile, 0}));
         }
-        QTRY_VERIFY(window.menu().mGame(1)->isEnabled());
+        QTRY_VERIFY(window.menu().mGame(GameItem::Undo)->isEnabled());
         xdotool({"key", "ctrl+z"});
         QTRY_COMPARE(window.engine().trans().GetTransID(), 1);
-        QTRY_VERIFY(window.engine().data.CurMoves == 1);
+        QTRY_VERIFY(window.engine().data().CurMoves == 1);
 
-        const std::string number = window.engine().data.CurGNo.Shown();
+        const std::string number = window.engine().data().CurGNo.Shown();
         window.close();
         QCOMPARE(closed.count(), 1);
         const auto lines = ReadLines(data / "Player1.sre");
@@ -120,7 +120,7 @@ private Q_SLOTS:
         window.motion().SetPaced(false);
         window.showMaximized();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        cData& stored = window.engine().data;
+        cData& stored = window.engine().data();
 
         // Keys go out only when a window of the kind that they are for has the focus.
         using Steps = QList<std::pair<QByteArray, QStringList>>;
@@ -147,7 +147,7 @@ private Q_SLOTS:
                                           {"NumberDialog", {"type", "12.5"}},
                                           {"NumberDialog", enter}}));
         QCOMPARE(stored.CurGNo.Shown(), "12.5");  // typing replaces the 0 of the complaint
-        QTRY_VERIFY(window.menu().mFav(1)->isEnabled());
+        QTRY_VERIFY(window.menu().mFav(FavItem::Add)->isEnabled());
         QVERIFY(run({"key", "ctrl+a"}, {{"QMessageBox", enter}}));
         QVERIFY(run({"key", "ctrl+p"}, {{"PlayFavoriteDialog", enter}}));
         QCOMPARE(ReadLines(data / "Player1.sre").size(), std::size_t{1});
@@ -159,7 +159,7 @@ private Q_SLOTS:
                                         {"NameDialog", enter},
                                         {"PlayersDialog", {"key", "Escape"}}}));
         QCOMPARE(stored.GetPlayer(2), "Ann");
-        QTRY_VERIFY(window.menu().mTools(5)->isEnabled());
+        QTRY_VERIFY(window.menu().mTools(ToolsItem::History)->isEnabled());
         QVERIFY(run({"key", "ctrl+h"}, {{"HistoryDialog", {"key", "Escape"}}}));
         QVERIFY(run({"key", "ctrl+f"}, {{"OrganizeFavoritesDialog", enter}}));
         window.close();
@@ -201,10 +201,10 @@ private Q_SLOTS:
             const QStringList words = QString::fromStdString(command).split(' ');
             const auto number = [&](int i) { return words.value(i).toShort(); };
             if (words[0] == "set")
-                engine.data.SetText(words[1].toStdString(), words[2].toStdString());
+                engine.data().SetText(words[1].toStdString(), words[2].toStdString());
             if (words[0] == "start") {
-                engine.StartGame(words.mid(2).join(' ').toStdString(),
-                                 *GameNumber::ParseBare(words[1].toStdString()));
+                engine.life().StartGame(words.mid(2).join(' ').toStdString(),
+                                        *GameNumber::ParseBare(words[1].toStdString()));
             }
             const int before = engine.trans().TransTop();
             if (words[0] == "drop") player.Drop(number(1), number(2), number(3));

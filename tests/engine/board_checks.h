@@ -54,10 +54,10 @@ inline std::string BoardFault(const cArray& array, const Table& table, const cGa
 /// under way.
 inline std::string PictureFault(const Engine& engine) {
     std::ostringstream fault;
-    for (const PicID id : engine.table.VisibleCards()) {
-        const KesCard& card = engine.table.Card(id);
+    for (const PicID id : engine.table().VisibleCards()) {
+        const KesCard& card = engine.table().Card(id);
         const bool closed =
-            card.Loc.Cell == Cell::Stock && engine.games.StockType() != StockType::Open;
+            card.Loc.Cell == Cell::Stock && engine.games().StockType() != StockType::Open;
         if ((card.FaceMode == FaceMode::Closed) != closed) fault << "face of " << id << "; ";
         if (card.Left != engine.array().GetCordX(card.Loc) ||
             card.Top != engine.array().GetCordY(card.Loc)) {

@@ -19,11 +19,11 @@ TEST(Score, RoundsHalvesToEvenAndStaysWithinSixteenBits) {
 class Counters : public EngineTest {
 protected:
     std::string Shown() {
-        const CounterCaptions shown = engine.TimeTick();
+        const CounterCaptions shown = engine.counters().TimeTick();
         return shown.mScore + '|' + shown.mTime + '|' + shown.mMoves;
     }
     void StartWithAMove() {
-        engine.data.Set(keys::Autoplay, 0);
+        engine.data().Set(keys::Autoplay, 0);
         Play(Hearts());
         Start("Hearts");
         DropOn(Find(kAce), Cell::Goal, 0);
@@ -32,32 +32,32 @@ protected:
 
 TEST_F(Counters, ShowTheScoreOfTheTickBefore) {
     StartWithAMove();
-    engine.data.CurTime = 300;  // left over from the last game
-    engine.data.CurMoves = 10;
+    engine.data().CurTime = 300;  // left over from the last game
+    engine.data().CurMoves = 10;
     clock.Advance(60);
     EXPECT_EQ(Shown(), "Score :-95|Time :0:01:00|Moves :1");
-    EXPECT_EQ(engine.data.CurScore, -95);
-    EXPECT_EQ(engine.data.CurTime, 60);
-    EXPECT_EQ(engine.data.CurMoves, 1);
+    EXPECT_EQ(engine.data().CurScore, -95);
+    EXPECT_EQ(engine.data().CurTime, 60);
+    EXPECT_EQ(engine.data().CurMoves, 1);
     EXPECT_EQ(Shown(), "Score :-10|Time :0:01:00|Moves :1");  // 10 - 20.5, to even
     for (const NumberKey& key : {keys::ShowTime, keys::ShowScore, keys::ShowMoves}) {
-        engine.data.Set(key, 2);  // anything but 1 hides
+        engine.data().Set(key, 2);  // anything but 1 hides
     }
     clock.Advance(7);
     EXPECT_EQ(Shown(), "||");
-    EXPECT_EQ(engine.data.CurTime, 67) << "hidden counters count on";
-    engine.CloseGame();
-    engine.data.Set(keys::ShowTime, 1);
+    EXPECT_EQ(engine.data().CurTime, 67) << "hidden counters count on";
+    engine.commands().CloseGame();
+    engine.data().Set(keys::ShowTime, 1);
     EXPECT_EQ(Shown(), "||");
-    EXPECT_EQ(engine.CalcScore(), 0);
+    EXPECT_EQ(engine.counters().CalcScore(), 0);
 }
 
 TEST_F(Counters, TimeStaysWithinItsLimits) {
     StartWithAMove();
     clock.Set({2025, 12, 31, 23, 0, 0});
-    EXPECT_EQ(engine.ElapsedTime(), 0) << "the clock was set back";
+    EXPECT_EQ(engine.counters().ElapsedTime(), 0) << "the clock was set back";
     clock.Set({9999, 12, 31, 23, 59, 59});
-    EXPECT_EQ(engine.ElapsedTime(), 2147483647);
+    EXPECT_EQ(engine.counters().ElapsedTime(), 2147483647);
 }
 
 TEST_F(Counters, RedealSlotShowsWhetherCardsAreLeft) {
@@ -66,11 +66,11 @@ TEST_F(Counters, RedealSlotShowsWhetherCardsAreLeft) {
     row.Waste = WasteDef{.Piles = 1, .StartX = 2000, .StartY = 5000};
     row.Stock.StockNum = StockNum::Redeal;
     Play(row);
-    engine.data.Set(keys::Autoplay, 0);
+    engine.data().Set(keys::Autoplay, 0);
     Start("Hearts");
     const auto picture = [&] {
-        engine.TimeTick();
-        return engine.table.PicStock[0].Picture;
+        engine.counters().TimeTick();
+        return engine.table().PicStock[0].Picture;
     };
     EXPECT_EQ(picture(), 16);
     const PicID last = Top(Cell::Stock, 0);

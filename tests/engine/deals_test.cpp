@@ -10,7 +10,7 @@ namespace {
 
 class Deals : public EngineTest {
 protected:
-    void SetUp() override { engine.data.Set(keys::Autoplay, 0); }
+    void SetUp() override { engine.data().Set(keys::Autoplay, 0); }
     void Deal() {
         Play(row);
         Start("Made Up", 5);
@@ -18,11 +18,11 @@ protected:
     /// One character a tableau card, bottom first: "c" closed, "o" open; a blank between two piles.
     std::string Faces() const {
         std::string faces;
-        for (int pile = 0; pile < engine.games.Piles(Cell::Home); ++pile) {
+        for (int pile = 0; pile < engine.games().Piles(Cell::Home); ++pile) {
             if (pile > 0) faces += ' ';
             for (int pos = 0; pos <= engine.array().GetTop(Cell::Home, pile); ++pos) {
                 const PicID id = engine.array().GetPicID(Cell::Home, pile, pos);
-                faces += engine.table.Card(id).FaceMode == FaceMode::Closed ? 'c' : 'o';
+                faces += engine.table().Card(id).FaceMode == FaceMode::Closed ? 'c' : 'o';
             }
         }
         return faces;
@@ -32,8 +32,8 @@ protected:
         std::string text;
         for (std::size_t pile = 0; pile < 4; ++pile) {
             const PicID id = engine.array().GetPicID(Cell::Goal, static_cast<int>(pile), 0);
-            const KesEmpty& slot = engine.table.PicRight[pile];
-            if (id != kNoCard) text += TextOf(engine.table.Card(id));
+            const KesEmpty& slot = engine.table().PicRight[pile];
+            if (id != kNoCard) text += TextOf(engine.table().Card(id));
             text += slot.Visible ? std::to_string(slot.Picture) + ' ' : "- ";
         }
         return text;
@@ -46,17 +46,18 @@ TEST_F(Deals, OfTheCatalogueAreWholeAndShowASlotForEachPile) {
         for (const double number : {2.0, 32.0, 4711.0, 999'999'999'999'999.0}) {
             SCOPED_TRACE(std::string(game.Name) + ' ' + std::to_string(number));
             Start(std::string(game.Name), number);
-            EXPECT_EQ(BoardFault(engine.array(), engine.table, engine.games), "");
+            EXPECT_EQ(BoardFault(engine.array(), engine.table(), engine.games()), "");
             EXPECT_EQ(PictureFault(engine), "");
             EXPECT_FALSE(engine.trans().UndoPossible());
             const auto shown = [](const auto& slots) {
                 return std::count_if(slots.begin(), slots.end(), [](auto& s) { return s.Visible; });
             };
-            EXPECT_EQ(shown(engine.table.PicHome), engine.games.Piles(Cell::Home));
-            EXPECT_EQ(shown(engine.table.PicRes), engine.games.Piles(Cell::Res));
-            EXPECT_EQ(shown(engine.table.PicRight), engine.games.Piles(Cell::Goal));
-            EXPECT_EQ(shown(engine.table.PicWaste), engine.games.Piles(Cell::Waste));
-            EXPECT_EQ(shown(engine.table.PicStock), game.Stock.StockNum == StockNum::None ? 0 : 1);
+            EXPECT_EQ(shown(engine.table().PicHome), engine.games().Piles(Cell::Home));
+            EXPECT_EQ(shown(engine.table().PicRes), engine.games().Piles(Cell::Res));
+            EXPECT_EQ(shown(engine.table().PicRight), engine.games().Piles(Cell::Goal));
+            EXPECT_EQ(shown(engine.table().PicWaste), engine.games().Piles(Cell::Waste));
+            EXPECT_EQ(shown(engine.table().PicStock),
+                      game.Stock.StockNum == StockNum::None ? 0 : 1);
         }
     }
 }
@@ -64,9 +65,9 @@ TEST_F(Deals, OfTheCatalogueAreWholeAndShowASlotForEachPile) {
 TEST_F(Deals, CatalogueIsInAlphabeticalOrder) {
     EXPECT_TRUE(std::is_sorted(kCatalogue.begin(), kCatalogue.end(),
                                [](auto& a, auto& b) { return a.Name < b.Name; }));
-    EXPECT_EQ(engine.data.GetGName(19), "Freecell");
-    EXPECT_EQ(engine.data.GetGameID("Freecell"), 19);
-    EXPECT_EQ(engine.data.GetGameID("freecell"), 0);
+    EXPECT_EQ(engine.data().GetGName(19), "Freecell");
+    EXPECT_EQ(engine.data().GetGameID("Freecell"), 19);
+    EXPECT_EQ(engine.data().GetGameID("freecell"), 0);
 }
 
 TEST_F(Deals, PatternsOfTheTableau) {
@@ -121,20 +122,20 @@ TEST_F(Deals, FirstCardMaySetTheBase) {
     std::set<int> bases;
     for (int number = 1; number <= 60; ++number) {
         Start("Penguin", number);
-        const int base = engine.table.Card(0).Num;
+        const int base = engine.table().Card(0).Num;
         bases.insert(base);
-        EXPECT_EQ(engine.games.GoalBase(), base);
-        EXPECT_EQ(engine.games.EmptyNum(), base == 0 ? 12 : base - 1);
-        EXPECT_EQ(engine.table.PicHome[0].Picture, engine.games.EmptyNum());
+        EXPECT_EQ(engine.games().GoalBase(), base);
+        EXPECT_EQ(engine.games().EmptyNum(), base == 0 ? 12 : base - 1);
+        EXPECT_EQ(engine.table().PicHome[0].Picture, engine.games().EmptyNum());
         EXPECT_EQ(engine.array().GetTop(Cell::Goal, 3), -1);
         for (int pile = 0; pile < 3; ++pile) {
-            EXPECT_EQ(engine.table.Card(Top(Cell::Goal, pile)).Num, base);
+            EXPECT_EQ(engine.table().Card(Top(Cell::Goal, pile)).Num, base);
         }
         EXPECT_LT(Top(Cell::Goal, 1), Top(Cell::Goal, 2)) << "in the order found";
     }
     EXPECT_EQ(bases.size(), 13U) << "the numbers tried should reach every base";
     Start("Freecell");
-    EXPECT_EQ(engine.games.GoalBase(), 0);
+    EXPECT_EQ(engine.games().GoalBase(), 0);
 }
 
 TEST_F(Deals, WasteStockAndEmptyPilesAreUpToTheGame) {
@@ -147,22 +148,22 @@ TEST_F(Deals, WasteStockAndEmptyPilesAreUpToTheGame) {
     EXPECT_EQ(Top(Cell::Waste, 1), 50);
     EXPECT_EQ(Top(Cell::Res, 0), 49);
     EXPECT_EQ(Top(Cell::Home, 0), 48);
-    EXPECT_EQ(engine.table.PicHome[3].Picture, 4);
+    EXPECT_EQ(engine.table().PicHome[3].Picture, 4);
     row.Waste = {};
     row.Res.Cards = 0;
     row.Home.EmptyNum = -3;
     row.Home.Cards = 26;
     row.Stock.StockType = StockType::TwoSuits;
     Deal();
-    EXPECT_FALSE(engine.table.PicWaste[0].Visible);
-    EXPECT_EQ(engine.table.PicHome[3].Picture, 14);
-    EXPECT_EQ(engine.table.VisibleCards().size(), 26U);
-    for (const PicID id : engine.table.VisibleCards()) EXPECT_LT(engine.table.Card(id).Suit, 2);
+    EXPECT_FALSE(engine.table().PicWaste[0].Visible);
+    EXPECT_EQ(engine.table().PicHome[3].Picture, 14);
+    EXPECT_EQ(engine.table().VisibleCards().size(), 26U);
+    for (const PicID id : engine.table().VisibleCards()) EXPECT_LT(engine.table().Card(id).Suit, 2);
     row.Home.Cards = 0;
     row.Stock = {.Piles = 0, .StockNum = StockNum::Redeal};
     Deal();
     EXPECT_EQ(engine.array().GetTop(Cell::Stock, 0), -1);
-    EXPECT_EQ(engine.table.PicStock[0].Picture, 16);
+    EXPECT_EQ(engine.table().PicStock[0].Picture, 16);
 }
 
 }  // namespace

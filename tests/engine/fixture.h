@@ -87,8 +87,8 @@ public:
 struct TestTable {
     TestTable() {
         sounds.on = true;
-        engine.onWon = [this] { script::PrintFinish(out, engine); };
-        engine.onMove = [this](const CardMove& move) { script::PrintMove(out, move); };
+        engine.life().OnWon([this] { script::PrintFinish(out, engine); });
+        engine.OnMove([this](const CardMove& move) { script::PrintMove(out, move); });
         engine.InitMain();
     }
 
@@ -102,15 +102,15 @@ struct TestTable {
         return text.substr(0, text.find("front:"));
     }
     void Play(const GameRow& row) {
-        engine.selectGame = [row](cGames& games, const std::string&) { SelectRow(games, row); };
+        engine.life().SelectBy([row](cGames& games, const std::string&) { SelectRow(games, row); });
     }
     void Start(const std::string& name, double number = 1) {
-        engine.StartGame(name, GameNumber::Number(number));
+        engine.life().StartGame(name, GameNumber::Number(number));
     }
     /// Press, drag so that the card stands at this place, and let go.
     void Drop(PicID id, double left, double top) {
         engine.gestures().MouseDown(id, 532, 720);
-        const KesCard& card = engine.table.Card(id);
+        const KesCard& card = engine.table().Card(id);
         engine.gestures().MouseMove(id, left - card.Left + 532, top - card.Top + 720);
         engine.gestures().MouseUp(id);
     }
@@ -122,13 +122,13 @@ struct TestTable {
     PicID Top(Cell cell, int pile) const { return engine.array().GetTopPicID(cell, pile); }
     /// The card with this rank and pack-suit.
     PicID Find(int num, int suitpile = 0) const {
-        for (PicID id = 0; id < engine.games.TotalCards(); ++id) {
-            const KesCard& card = engine.table.Card(id);
+        for (PicID id = 0; id < engine.games().TotalCards(); ++id) {
+            const KesCard& card = engine.table().Card(id);
             if (card.Num == num && card.Suitpile == suitpile) return id;
         }
         return kNoCard;
     }
-    std::filesystem::path ScoreFile() const { return ScorePath(engine.data, "Player1"); }
+    std::filesystem::path ScoreFile() const { return ScorePath(engine.data(), "Player1"); }
 
     TempFolder folder;
     std::ostringstream out;

@@ -8,59 +8,59 @@ class Menus : public EngineTest {
 protected:
     /// A game of Freecell with a move to undo and one to redo.
     void StartWithMoves() {
-        engine.data.Set(keys::Autoplay, 0);
+        engine.data().Set(keys::Autoplay, 0);
         Start("Freecell");
         for (int pile = 0; pile < 2; ++pile) DropOn(Top(Cell::Home, pile), Cell::Res, pile);
-        engine.Undo();
+        engine.commands().Undo();
         Heard();
     }
 };
 
 TEST_F(Menus, CommandsOfDisabledItemsDoNothing) {
     StartWithMoves();
-    engine.ReplayForward();
-    for (const auto command : {&Engine::Undo, &Engine::Redo, &Engine::UndoAll, &Engine::RedoAll,
-                               &Engine::ReplayAll, &Engine::ReplayBack}) {
-        (engine.*command)();
+    engine.commands().ReplayForward();
+    for (const auto command : {&Commands::Undo, &Commands::Redo, &Commands::UndoAll,
+                               &Commands::RedoAll, &Commands::ReplayAll, &Commands::ReplayBack}) {
+        (engine.commands().*command)();
     }
     EXPECT_EQ(Heard(), "") << "locked while a replay is on";
-    EXPECT_FALSE(engine.BackwardOn());
-    engine.StopReplay();
-    EXPECT_TRUE(engine.ForwardOn()) << "Stop comes with the first tick";
+    EXPECT_FALSE(engine.replay().BackwardOn());
+    engine.commands().StopReplay();
+    EXPECT_TRUE(engine.replay().ForwardOn()) << "Stop comes with the first tick";
     Start("Galaxy");
-    engine.ToggleAutoplay();
-    EXPECT_EQ(engine.data.Get(keys::Autoplay), 0) << "a game without autoplay";
+    engine.commands().ToggleAutoplay();
+    EXPECT_EQ(engine.data().Get(keys::Autoplay), 0) << "a game without autoplay";
 }
 
 TEST_F(Menus, ReplayEndsWithAMoveByHandOrWithItsGame) {
     StartWithMoves();
-    engine.ReplayForward();
+    engine.commands().ReplayForward();
     DropOn(Top(Cell::Home, 2), Cell::Res, 2);
-    engine.ForwardTick();
-    EXPECT_FALSE(engine.ForwardOn());
+    engine.replay().ForwardTick();
+    EXPECT_FALSE(engine.replay().ForwardOn());
     EXPECT_EQ(engine.trans().GetTransID(), 2);
-    engine.ReplayBack();
-    engine.BackwardTick();
+    engine.commands().ReplayBack();
+    engine.replay().BackwardTick();
     Start("Freecell", 2);
-    EXPECT_FALSE(engine.BackwardOn());
-    EXPECT_FALSE(engine.UpdateMenus().mReplay6);
-    engine.CloseGame();
-    engine.ForwardTick();
-    engine.BackwardTick();
-    EXPECT_FALSE(engine.UpdateMenus().mReplay6) << "a tick without a game does nothing";
+    EXPECT_FALSE(engine.replay().BackwardOn());
+    EXPECT_FALSE(engine.commands().UpdateMenus().Stop);
+    engine.commands().CloseGame();
+    engine.replay().ForwardTick();
+    engine.replay().BackwardTick();
+    EXPECT_FALSE(engine.commands().UpdateMenus().Stop) << "a tick without a game does nothing";
 }
 
 TEST_F(Menus, RecentGamesAreNumbered) {
     Start("Penguin");
     Start("Zodiac");
-    EXPECT_EQ(engine.UpdateRecent(),
+    EXPECT_EQ(engine.commands().UpdateRecent(),
               (std::array<std::string, 5>{"&1 Zodiac", "&2 Penguin", "", "", ""}));
-    engine.RecentGame(2);
-    EXPECT_EQ(engine.data.CurGName(), "Penguin");
-    engine.NewGame();
-    EXPECT_EQ(engine.data.CurGName(), "Penguin");
-    engine.RecentGame(5);
-    EXPECT_EQ(engine.score.SesTop(), 3) << "a blank entry is inert";
+    engine.commands().RecentGame(2);
+    EXPECT_EQ(engine.data().CurGName(), "Penguin");
+    engine.commands().NewGame();
+    EXPECT_EQ(engine.data().CurGName(), "Penguin");
+    engine.commands().RecentGame(5);
+    EXPECT_EQ(engine.score().SesTop(), 3) << "a blank entry is inert";
 }
 
 }  // namespace

@@ -6,13 +6,13 @@ namespace {
 
 class Choosing : public EngineTest {
 protected:
-    std::filesystem::path File(const std::string& name) { return engine.data.AppDir() / name; }
+    std::filesystem::path File(const std::string& name) { return engine.data().AppDir() / name; }
     std::string FirstPlayers() const {
         std::string list;
-        for (std::int16_t slot = 1; slot <= 4; ++slot) list += engine.data.GetPlayer(slot) + '|';
+        for (std::int16_t slot = 1; slot <= 4; ++slot) list += engine.data().GetPlayer(slot) + '|';
         return list;
     }
-    cData& data = engine.data;
+    cData& data = engine.data();
 };
 using Players = Choosing;
 
@@ -35,26 +35,26 @@ TEST_F(Choosing, TakesNumbersStrictlyInsideTheRange) {
                  {1, "8.9", true}};
     for (const auto& c : cases) {
         data.Set(keys::RangeIndex, I16(c.range));
-        EXPECT_EQ(engine.IsChoosable(c.text), c.accepted) << c.range << ": " << c.text;
+        EXPECT_EQ(engine.choosing().IsChoosable(c.text), c.accepted) << c.range << ": " << c.text;
     }
-    EXPECT_EQ(engine.RangeText(), "0 and 9");
+    EXPECT_EQ(engine.choosing().RangeText(), "0 and 9");
     data.Set(keys::RangeIndex, 3);
-    EXPECT_EQ(engine.RangeText(), "0 and 999");
+    EXPECT_EQ(engine.choosing().RangeText(), "0 and 999");
 }
 
 TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {
-    engine.AddFavorite();  // no game, so nothing
+    engine.commands().AddFavorite();  // no game, so nothing
     EXPECT_FALSE(std::filesystem::exists(File("fav.dat")));
     WriteFile(File("fav.dat"),
               "\"A\",1\n\"A\" ,2\nA,3\n\"A\"\n\"A\",4,5\n\"A\",x\n\n\"A\",1234567890123456\n"
               "\"A\",\"any text\"\r\n\"A\",6");
-    engine.favorites.OpenFav();
-    EXPECT_EQ(engine.favorites.NumbersOf("A"), (std::vector<std::string>{"1", "any text", "6"}));
+    engine.favorites().OpenFav();
+    EXPECT_EQ(engine.favorites().NumbersOf("A"), (std::vector<std::string>{"1", "any text", "6"}));
     std::string many;
     for (int i = 0; i < 33000; ++i) many += "\"A\",7\r\n";
     WriteFile(File("fav.dat"), many);
-    engine.favorites.OpenFav();
-    EXPECT_EQ(engine.favorites.FavTop(), 32767);
+    engine.favorites().OpenFav();
+    EXPECT_EQ(engine.favorites().FavTop(), 32767);
 }
 
 TEST_F(Choosing, RecentGamesComeNewestFirst) {
@@ -68,16 +68,16 @@ TEST_F(Choosing, RecentGamesComeNewestFirst) {
     EXPECT_EQ(data.RecentCount(), 4);
     for (const char* game : {"D", "a", "A"}) data.SetRecent(game);
     EXPECT_EQ(recent(), "A|a|D|C|A|");
-    engine.ClearRecentGames();
+    engine.choosing().ClearRecentGames();
     EXPECT_EQ(recent(), "|||||");
 }
 
 TEST_F(Players, AreTwentyAtMostAndToldApartByCase) {
     for (int i = 2; i <= 20; ++i) {
-        EXPECT_TRUE(engine.MayAddPlayer());
-        EXPECT_TRUE(engine.EnterPlayer("", i == 2 ? "player1" : "P" + std::to_string(i)));
+        EXPECT_TRUE(engine.players().MayAddPlayer());
+        EXPECT_TRUE(engine.players().EnterPlayer("", i == 2 ? "player1" : "P" + std::to_string(i)));
     }
-    EXPECT_FALSE(engine.MayAddPlayer());
+    EXPECT_FALSE(engine.players().MayAddPlayer());
     EXPECT_FALSE(data.AddPlayer("P21"));
     EXPECT_EQ(data.FindPlayer("P20"), 20);
     EXPECT_EQ(data.FindPlayer("PLAYER1"), 0);
@@ -89,13 +89,13 @@ TEST_F(Players, AreTwentyAtMostAndToldApartByCase) {
 
 TEST_F(Players, HaveNamesFitForFiles) {
     for (const char* bad : {"", "   ", "a/b", "a\\b", "a\tb", "a\nb", "\x7f", "\x01"}) {
-        EXPECT_FALSE(engine.EnterPlayer("", bad));
+        EXPECT_FALSE(engine.players().EnterPlayer("", bad));
         EXPECT_EQ(Heard(), "message: Please Enter a Valid Name\n") << bad;
     }
     for (const char* good : {" A ", "\u540d\u524d Zo\u00eb", "x.y", "..", "a:b"}) {
-        EXPECT_TRUE(engine.EnterPlayer("", good)) << good;
-        EXPECT_FALSE(engine.EnterPlayer("", good));
-        EXPECT_FALSE(engine.EnterPlayer(good, good));
+        EXPECT_TRUE(engine.players().EnterPlayer("", good)) << good;
+        EXPECT_FALSE(engine.players().EnterPlayer("", good));
+        EXPECT_FALSE(engine.players().EnterPlayer(good, good));
         EXPECT_EQ(Heard(), "message: Player Exists !\nmessage: Player Exists !\n");
     }
     const std::string longest = std::string(24, 'x') + "\u00eb";
@@ -105,22 +105,22 @@ TEST_F(Players, HaveNamesFitForFiles) {
 TEST_F(Players, TakeTheirResultsAlong) {
     data.SetPlayer(1, "Zo\u00eb", true);
     Start("Freecell");
-    engine.CloseGame();
+    engine.commands().CloseGame();
     const std::string results = ReadFile(File("Zo\u00eb.sre"));
     EXPECT_NE(results, "");
-    EXPECT_TRUE(engine.EnterPlayer("Zo\u00eb", "Ann"));
+    EXPECT_TRUE(engine.players().EnterPlayer("Zo\u00eb", "Ann"));
     EXPECT_EQ(data.CurPlayer(), "Ann");
     EXPECT_EQ(ReadFile(File("Ann.sre")), results);
     EXPECT_FALSE(std::filesystem::exists(File("Zo\u00eb.sre")));
     // A file left by somebody else isn't destroyed, nor a name changed that no file can have.
     WriteFile(File("Bob.sre"), "his");
-    EXPECT_FALSE(engine.EnterPlayer("Ann", "Bob"));
+    EXPECT_FALSE(engine.players().EnterPlayer("Ann", "Bob"));
     EXPECT_EQ(ReadFile(File("Bob.sre")), "his");
     Heard();
-    EXPECT_FALSE(engine.EnterPlayer("Ann", std::string(300, 'x')));
+    EXPECT_FALSE(engine.players().EnterPlayer("Ann", std::string(300, 'x')));
     EXPECT_EQ(Heard(), "message: Please Enter a Valid Name\n");
     EXPECT_EQ(data.CurPlayer() + data.GetPlayer(1), "AnnAnn");
-    EXPECT_TRUE(engine.EnterPlayer("", "Bob")) << "a new player may find old results";
+    EXPECT_TRUE(engine.players().EnterPlayer("", "Bob")) << "a new player may find old results";
 }
 
 TEST_F(Players, WhoseNamesCanBeNoFileCountAsNoneInEditedSettings) {
@@ -180,36 +180,36 @@ TEST_F(Players, SettingsThatCanNotBeWrittenLeaveListAndFilesInStep) {
     } unwritable;
     Engine other{{unwritable, clock, surface, sounds, messages, data.AppDir()}};
     other.InitMain();
-    EXPECT_EQ(other.data.CurPlayer(), "Player1") << "there is somebody to play, for this run";
+    EXPECT_EQ(other.data().CurPlayer(), "Player1") << "there is somebody to play, for this run";
     WriteFile(File("Player1.sre"), "x");
     WriteFile(File("Bob.sre"), "y");
-    other.data.AddPlayer("Bob");
-    EXPECT_FALSE(other.EnterPlayer("", "Cid"));
-    EXPECT_FALSE(other.EnterPlayer("Player1", "Anna"));
-    EXPECT_FALSE(other.DeletePlayer("Bob"));
+    other.data().AddPlayer("Bob");
+    EXPECT_FALSE(other.players().EnterPlayer("", "Cid"));
+    EXPECT_FALSE(other.players().EnterPlayer("Player1", "Anna"));
+    EXPECT_FALSE(other.players().DeletePlayer("Bob"));
     const std::string heard = Heard();
     EXPECT_EQ(std::count(heard.begin(), heard.end(), '\n'), 3) << heard;
     EXPECT_EQ(ReadFile(File("Player1.sre")) + ReadFile(File("Bob.sre")), "xy");
-    EXPECT_EQ(other.data.FindPlayer("Cid") + other.data.FindPlayer("Anna"), 0);
+    EXPECT_EQ(other.data().FindPlayer("Cid") + other.data().FindPlayer("Anna"), 0);
 }
 
 TEST_F(Players, CurrentOneIsAlwaysListed) {
     data.CurPlayer("Nobody");
     EXPECT_EQ(data.CurPlayer(), "Player1");
-    EXPECT_FALSE(engine.DeletePlayer("Player1"));
+    EXPECT_FALSE(engine.players().DeletePlayer("Player1"));
     Start("Freecell");
-    engine.CloseGame();
+    engine.commands().CloseGame();
     EXPECT_TRUE(std::filesystem::exists(File("Player1.sre")));
 }
 
 TEST_F(Players, LeaveNothingBehindButTheirOrder) {
-    for (const char* name : {"B", "C", "D"}) engine.EnterPlayer("", name);
+    for (const char* name : {"B", "C", "D"}) engine.players().EnterPlayer("", name);
     for (const char* file : {"B.sre", "C.sre", "D.sre"}) WriteFile(File(file), "x");
-    EXPECT_FALSE(engine.DeletePlayer("Player1")) << "the current one";
-    EXPECT_TRUE(engine.DeletePlayer("B"));
+    EXPECT_FALSE(engine.players().DeletePlayer("Player1")) << "the current one";
+    EXPECT_TRUE(engine.players().DeletePlayer("B"));
     EXPECT_FALSE(std::filesystem::exists(File("B.sre")));
     EXPECT_EQ(FirstPlayers(), "Player1|C|D||");
-    engine.ClearStat();
+    engine.results().ClearStat();
     EXPECT_FALSE(std::filesystem::exists(File("D.sre")));
 }
 

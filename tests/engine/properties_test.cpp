@@ -65,31 +65,32 @@ TEST_P(Properties, HoldInRandomPlay) {
         std::string deal;
         for (int act = 0; act < 250; ++act) {
             SCOPED_TRACE(testing::Message() << "seed " << seed << ", act " << act);
-            if (!engine.data.GameRunning) {
-                ASSERT_TRUE(engine.table.VisibleCards().empty());
-                engine.data.Set(keys::Autoplay, 0);
+            if (!engine.data().GameRunning) {
+                ASSERT_TRUE(engine.table().VisibleCards().empty());
+                engine.data().Set(keys::Autoplay, 0);
                 table.Start("A Game", seed * 1000 + act);
                 deal = table.Board();
-                engine.data.Set(keys::Autoplay, I16(player.Below(2)));
+                engine.data().Set(keys::Autoplay, I16(player.Below(2)));
             }
             player.Act();
             table.Heard();
-            ASSERT_TRUE(LooksSame(table.surface.scene, engine.table)) << "something wasn't told";
-            if (engine.phase() == Phase::Won) engine.LeaveGame();
-            if (!engine.data.GameRunning) continue;
-            ASSERT_EQ(BoardFault(engine.array(), engine.table, engine.games), "");
+            ASSERT_TRUE(LooksSame(table.surface.scene, engine.table())) << "something wasn't told";
+            if (engine.life().phase() == Phase::Won) engine.life().LeaveGame();
+            if (!engine.data().GameRunning) continue;
+            ASSERT_EQ(BoardFault(engine.array(), engine.table(), engine.games()), "");
             ASSERT_EQ(LogFault(engine.trans()), "");
             ASSERT_EQ(GetParam().openTableau ? PictureFault(engine) : "", "");
             if (act % 50 != 49) continue;
             // Undoing all leads to the deal, redoing all back.
-            while (engine.ForwardOn() || engine.BackwardOn()) engine.ForwardTick();
-            engine.RedoAll();
-            if (engine.phase() == Phase::Won) engine.LeaveGame();
-            if (!engine.data.GameRunning) continue;
+            while (engine.replay().ForwardOn() || engine.replay().BackwardOn())
+                engine.replay().ForwardTick();
+            engine.commands().RedoAll();
+            if (engine.life().phase() == Phase::Won) engine.life().LeaveGame();
+            if (!engine.data().GameRunning) continue;
             const std::string played = table.Board();
-            engine.UndoAll();
+            engine.commands().UndoAll();
             ASSERT_EQ(table.Board(), deal);
-            engine.RedoAll();
+            engine.commands().RedoAll();
             ASSERT_EQ(table.Board(), played);
         }
     }

@@ -26,20 +26,20 @@ private:
     void Command() {
         Engine& engine = table_.engine;
         switch (Below(16)) {
-            case 0: return engine.RedoAll();
-            case 1: return engine.UndoAll();
-            case 2: return engine.ReplayForward();
-            case 3: return engine.ReplayBack();
-            case 4: return engine.ReplayAll();
-            case 5: return engine.ToggleAutoplay();
+            case 0: return engine.commands().RedoAll();
+            case 1: return engine.commands().UndoAll();
+            case 2: return engine.commands().ReplayForward();
+            case 3: return engine.commands().ReplayBack();
+            case 4: return engine.commands().ReplayAll();
+            case 5: return engine.commands().ToggleAutoplay();
             case 6: table_.clock.Advance(Below(30)); [[fallthrough]];
-            case 7: engine.TimeTick(); return;
-            case 8: return engine.StopReplay();
+            case 7: engine.counters().TimeTick(); return;
+            case 8: return engine.commands().StopReplay();
             case 9: return engine.gestures().StockClick();
-            case 10: return engine.Redo();
-            case 11: return engine.ForwardTick();
-            case 12: return engine.BackwardTick();
-            default: return engine.Undo();
+            case 10: return engine.commands().Redo();
+            case 11: return engine.replay().ForwardTick();
+            case 12: return engine.replay().BackwardTick();
+            default: return engine.commands().Undo();
         }
     }
     void DragSomething() {
@@ -60,22 +60,22 @@ private:
         if (Below(5) > 0) {
             const Cell cells[] = {Cell::Home, Cell::Home, Cell::Home, Cell::Res, Cell::Goal};
             const Cell cell = cells[Below(5)];
-            const int pile = Below(std::max<int>(1, engine.games.Piles(cell)));
+            const int pile = Below(std::max<int>(1, engine.games().Piles(cell)));
             const int pos = cell == Cell::Home ? engine.array().GetTop(cell, pile) : 0;
             const Place place{cell, I16(pile), I16(pos)};
             left = engine.array().GetCordX(place) + (Below(3) - 1) * Below(900);
             top = engine.array().GetCordY(place) + (Below(3) - 1) * Below(1200);
         }
         Gestures& gestures = table_.engine.gestures();
-        gestures.MouseMove(id, left - engine.table.Card(id).Left + gestures.DownX(),
-                           top - engine.table.Card(id).Top + gestures.DownY());
+        gestures.MouseMove(id, left - engine.table().Card(id).Left + gestures.DownX(),
+                           top - engine.table().Card(id).Top + gestures.DownY());
     }
     /// Mostly the top of a pile.
     PicID AnyCard() {
-        const auto visible = table_.engine.table.VisibleCards();
+        const auto visible = table_.engine.table().VisibleCards();
         std::vector<PicID> cards;
         for (const PicID id : visible) {
-            const Place& at = table_.engine.table.Card(id).Loc;
+            const Place& at = table_.engine.table().Card(id).Loc;
             if (at.Pos == table_.engine.array().GetTop(at.Cell, at.Pile)) cards.push_back(id);
         }
         if (cards.empty() || Below(3) == 0) cards = visible;

@@ -23,14 +23,14 @@ protected:
     void Write(const std::vector<ScoreRecord>& records, const std::string& player = "Player1") {
         std::string text;
         for (const ScoreRecord& record : records) text.append(ScoreLine(record)).append("\r\n");
-        if (engine.data.FindPlayer(player) == 0) engine.data.AddPlayer(player);
-        WriteFile(ScorePath(engine.data, player), text);
-        engine.score.OpenAllScore();
+        if (engine.data().FindPlayer(player) == 0) engine.data().AddPlayer(player);
+        WriteFile(ScorePath(engine.data(), player), text);
+        engine.score().OpenAllScore();
     }
     std::vector<int> Ranked(std::int32_t ScoreRecord::*field) {
         std::vector<int> values;
         for (std::int16_t place = 1; place <= kTopPlaces; ++place) {
-            const ScoreRecord record = engine.score.GetTopScore(place);
+            const ScoreRecord record = engine.score().GetTopScore(place);
             if (!record.Date.empty()) values.push_back(record.*field);
         }
         return values;
@@ -44,14 +44,14 @@ protected:
 
 TEST_F(Reports, GeneralFigures) {
     Write({Game(50, 100, 120)});
-    EXPECT_EQ(GeneralLines(engine.score.AllSummary()),
+    EXPECT_EQ(GeneralLines(engine.score().AllSummary()),
               (std::vector<std::string>{
                   "Games Played : 1", "Games Won : 1", "Games Lost : 0", "Total Moves : 100",
                   "Total Score : 50", "Total Time : 0:02:00", "Moves Per Game : 100",
                   "Score Per Game : 50", "Time Per Game : 0:02:00", "Games Per Hour : 30",
                   "Moves Per Hour : 3000", "Score Per Hour : 1500", "Winning Percentage : 100%"}));
     Write({Game(-1, 3, 2, 0), Game(0, 0, 3, 0)});
-    const auto lines = GeneralLines(engine.score.AllSummary());
+    const auto lines = GeneralLines(engine.score().AllSummary());
     EXPECT_EQ(lines[7], "Score Per Game : 0") << "cut towards 0, without a sign";
     EXPECT_EQ(lines[8], "Time Per Game : 0:00:02") << "2.5 seconds go to the even number";
     EXPECT_EQ(GeneralLines({}).back(), "Winning Percentage : 0%");
@@ -59,21 +59,21 @@ TEST_F(Reports, GeneralFigures) {
 
 TEST_F(Reports, PercentagesOfGamesHaveDecimalsAndThoseOfPlayersDoNot) {
     Write({Game(1), Game(1, 1, 1, 0), Game(1, 1, 1, 2)});
-    const auto freecell = static_cast<std::size_t>(engine.data.GetGameID("Freecell") - 1);
-    EXPECT_EQ(Line(GameRows(engine.score, engine.data), freecell),
+    const auto freecell = static_cast<std::size_t>(engine.data().GetGameID("Freecell") - 1);
+    EXPECT_EQ(Line(GameRows(engine.score(), engine.data()), freecell),
               "Freecell|3|1|2|0:00:03|3|3|33.33%|");
-    EXPECT_EQ(Line(PlayerRows(engine.score, engine.data), 0), "Player1|3|1|2|0:00:03|3|3|33%|");
-    EXPECT_EQ(Line(GameRows(engine.score, engine.data), 0), "Avenue|0|0|0|0:00:00|0|0|0%|");
+    EXPECT_EQ(Line(PlayerRows(engine.score(), engine.data()), 0), "Player1|3|1|2|0:00:03|3|3|33%|");
+    EXPECT_EQ(Line(GameRows(engine.score(), engine.data()), 0), "Avenue|0|0|0|0:00:00|0|0|0%|");
 }
 
 TEST_F(Reports, FirstFiftyGamesAreChartedAsTheyWere) {
     std::vector<ScoreRecord> games;
     for (int i = 1; i <= 60; ++i) games.push_back(Game(-i, i, 2 * i));
     Write(games);
-    const auto charted = FirstGames(engine.score, "Freecell");
+    const auto charted = FirstGames(engine.score(), "Freecell");
     ASSERT_EQ(charted.size(), 50U);
     EXPECT_EQ(charted.back(), (GameFigures{-50, 50, 100}));
-    EXPECT_TRUE(FirstGames(engine.score, "Avenue").empty());
+    EXPECT_TRUE(FirstGames(engine.score(), "Avenue").empty());
 }
 
 TEST_F(Reports, PeriodsFollowTheCalendar) {
@@ -81,7 +81,7 @@ TEST_F(Reports, PeriodsFollowTheCalendar) {
            Game(2, 1, 1, 0, "1/1/2026 12:00:00 AM"), Game(4, 1, 1, 1, "12/31/2025 11:59:59 PM"),
            Game(8, 1, 1, 1, "2/28/2025 1:00:00 AM"), Game(32, 1, 1, 1, "2/1/2026 1:00:00 AM")});
     const DateTime now{.month = 3, .day = 31, .hour = 23};
-    const auto month = engine.score.PeriodSummary({.month = 1, .day = 31}, Interval::Month);
+    const auto month = engine.score().PeriodSummary({.month = 1, .day = 31}, Interval::Month);
     EXPECT_EQ(month.Label, "Jan 26");
     EXPECT_EQ(month.Score, 3);
     EXPECT_EQ(month.Lost, 1);
@@ -89,7 +89,7 @@ TEST_F(Reports, PeriodsFollowTheCalendar) {
     using Row = std::pair<std::string, int>;
     const auto scores = [&](std::size_t choice) {
         std::vector<Row> rows;
-        for (const auto& period : PeriodRows(engine.score, PeriodChoices()[choice], now)) {
+        for (const auto& period : PeriodRows(engine.score(), PeriodChoices()[choice], now)) {
             rows.emplace_back(period.Label, period.Score);
         }
         return rows;
@@ -111,20 +111,20 @@ TEST_F(Reports, LaterOfEqualScoresRanksHigherAndTwentyHaveRoom) {
     games.push_back(Game(-5));
     games.push_back(Game(99, 1, 1, 0));
     Write(games);
-    engine.score.Sort("", "", 1);
+    engine.score().Sort("", "", 1);
     EXPECT_EQ(Ranked(&ScoreRecord::Moves),
               (std::vector<int>{24, 21, 18, 15, 12, 9, 6,  3,  23, 20,
                                 17, 14, 11, 8,  5,  2, 25, 22, 19, 16}));
-    engine.score.Sort("", "", 0);
+    engine.score().Sort("", "", 0);
     EXPECT_EQ(Ranked(&ScoreRecord::Score).front(), 99) << "lost games rank as well";
-    engine.score.Sort("Avenue", "", 0);
+    engine.score().Sort("Avenue", "", 0);
     EXPECT_TRUE(Ranked(&ScoreRecord::Score).empty());
 }
 
 TEST_F(Reports, FinishedGamesRankByWhatIsAskedFor) {
     Write({Game(5, 30, 10), Game(9, 20, 40), Game(7, 10, 20)});
     const auto best = [&](FinishedBy by) {
-        return Line(FinishedRows(engine.score, by, engine.dates()), 0);
+        return Line(FinishedRows(engine.score(), by, engine.dates()), 0);
     };
     EXPECT_EQ(best(FinishedBy::Score), "1|Player1|Freecell|9|0:00:40|20|1/31/2026|7|");
     EXPECT_EQ(best(FinishedBy::Moves), "1|Player1|Freecell|7|0:00:20|10|1/31/2026|7|");
@@ -183,9 +183,9 @@ TEST_F(Reports, RankingsAgreeWithASlowSecondComputation) {
         Write(games);
         for (const bool other : {true, false}) {
             const Field key = other ? &ScoreRecord::Time : &ScoreRecord::Moves;
-            engine.score.FinSort(other, !other);
+            engine.score().FinSort(other, !other);
             EXPECT_EQ(Ranked(key), SlowFinSort(games, key));
-            engine.score.Sort("", "", other ? 0 : 1);
+            engine.score().Sort("", "", other ? 0 : 1);
             EXPECT_EQ(Ranked(&ScoreRecord::Moves), SlowSort(games, other));
         }
     }
@@ -208,19 +208,19 @@ TEST_F(Reports, LogPassesByCalendarAge) {
         std::string found;
         for (const AgeChoice& age : AgeChoices()) {
             const LogFilter filter{.Player = "", .Game = "", .Age = &age};
-            found += LogPositions(engine.score.List(), filter, now).empty() ? 'f' : 't';
+            found += LogPositions(engine.score().List(), filter, now).empty() ? 'f' : 't';
         }
         EXPECT_EQ(found, passes) << date;
     }
 }
 
 TEST_F(Reports, ExportKeepsItsColumns) {
-    engine.data.AddPlayer("A name of 25 letters, yes");
+    engine.data().AddPlayer("A name of 25 letters, yes");
     clock.Set({.month = 11, .day = 8, .hour = 13});
     Write({Game(100, 300, 700), Game(-20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
-    engine.ExportStat({folder.Path() / "report", "report"});
+    engine.results().ExportStat({folder.Path() / "report", "report"});
     EXPECT_EQ(Heard(), "message: Statistics Successfully Exported to report\n");
-    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    EXPECT_EQ(engine.score().ScoreTop(), 0);
     const std::string report = ReadFile(folder.Path() / "report");
     for (const std::string line :
          {"Varnello Score Board\r\n \r\n*************************\r\n \r\n"
@@ -243,27 +243,27 @@ TEST_F(Reports, ExportKeepsItsColumns) {
 }
 
 TEST_F(Reports, ExportIsSilentWhenItCanNotBe) {
-    engine.ExportStat({folder.Path() / "no folder" / "report", "report"});
+    engine.results().ExportStat({folder.Path() / "no folder" / "report", "report"});
     EXPECT_EQ(Heard(), "");
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "no folder"));
 }
 
 TEST_F(Reports, SessionShowsTheRunningGameLast) {
     EXPECT_EQ(GameLabelsOf(engine).Started, "Game Started : ");
-    engine.data.Set(keys::Autoplay, 0);
+    engine.data().Set(keys::Autoplay, 0);
     Start("Freecell", 5);
-    engine.CloseGame();
-    engine.ClearStat();
-    engine.StartGame("Zodiac", GameNumber::Text("012"));
+    engine.commands().CloseGame();
+    engine.results().ClearStat();
+    engine.life().StartGame("Zodiac", GameNumber::Text("012"));
     clock.Advance(90);
-    engine.TimeTick();
+    engine.counters().TimeTick();
     const auto rows = SessionRows(engine);
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(Line(rows, 0), "Freecell|5|Player1|0:00:00|0|Lost|0|");
     EXPECT_EQ(Line(rows, 1), "Zodiac|012|Player1|0:01:30|0|Running|80|");
     EXPECT_EQ(Line(DetailRows(engine), 1), "2|0:01:30|0|80|");
     EXPECT_EQ(SessionLabels(engine)[1], "Games Played : 1") << "the running game doesn't count";
-    engine.CloseGame();
+    engine.commands().CloseGame();
     EXPECT_EQ(GameLabelsOf(engine).Time, "Time Elapsed : 0:01:30") << "the last figures stay";
 }
 
@@ -273,12 +273,12 @@ TEST_F(Reports, OddFilesAreReadAsFarAsTheyGo) {
     odd += "\"1/1/2026 1:00:00 AM\",\"a" + std::string("\0b", 2) + "\",1,1,1,1,1\n\"" + good;
     odd += "\n\"" + std::string(3 << 20, 'g') + "\",\"g\",1,1,1,1,1\n" + good;
     WriteFile(ScoreFile(), odd);
-    engine.score.OpenAllScore();
-    EXPECT_EQ(engine.score.ScoreTop(), 4) << "the long line counts as damaged";
+    engine.score().OpenAllScore();
+    EXPECT_EQ(engine.score().ScoreTop(), 4) << "the long line counts as damaged";
     EXPECT_EQ(ReadFile(ScoreFile()), odd) << "a reader changes nothing";
-    engine.score.OpenScore("Player1");
-    EXPECT_EQ(engine.score.ScoreTop(), 8) << "opening again doubles the list";
-    EXPECT_EQ(engine.score.AllSummary().Played, 8);
+    engine.score().OpenScore("Player1");
+    EXPECT_EQ(engine.score().ScoreTop(), 8) << "opening again doubles the list";
+    EXPECT_EQ(engine.score().AllSummary().Played, 8);
 }
 
 }  // namespace

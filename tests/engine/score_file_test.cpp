@@ -55,7 +55,7 @@ class ScoreFiles : public EngineTest {
 protected:
     void Book() {
         Start("Freecell", 5);
-        engine.CloseGame();
+        engine.commands().CloseGame();
         Heard();
     }
     static constexpr const char* kBooked = "\"1/1/2026 12:00:00 PM\",\"Freecell\",5,0,0,0,0\r\n";
@@ -83,60 +83,60 @@ TEST_F(ScoreFiles, UnfinishedLineGetsItsEndFirst) {
 }
 
 TEST_F(ScoreFiles, AreReadLineByLineWithoutTheDamagedOnes) {
-    for (const char* player : {"Ada", "Nobody", "Bob"}) engine.data.AddPlayer(player);
+    for (const char* player : {"Ada", "Nobody", "Bob"}) engine.data().AddPlayer(player);
     const std::string good = kGood;
     WriteFile(ScoreFile(), good + "\r\n" + "damaged\r\n\r\n" + good + "\n" + good);
-    WriteFile(ScorePath(engine.data, "Ada"),
+    WriteFile(ScorePath(engine.data(), "Ada"),
               "\"d\",\"Zodiac\",\"12\",1,2,-3,0\r\n\"e\",\"A\",\"x\",1,1,1,0\n");
-    WriteFile(ScorePath(engine.data, "Bob"), "\"f\",\"B\",\"y\",1,2,5,0\r\n");
-    WriteFile(ScorePath(engine.data, "Stranger"), good + "\r\n");
+    WriteFile(ScorePath(engine.data(), "Bob"), "\"f\",\"B\",\"y\",1,2,5,0\r\n");
+    WriteFile(ScorePath(engine.data(), "Stranger"), good + "\r\n");
     for (int round = 0; round < 2; ++round) {
-        engine.score.OpenAllScore();
-        ASSERT_EQ(engine.score.ScoreTop(), 6) << "opening reads afresh";
-        EXPECT_EQ(ScoreLine(engine.score.GetScore(3)), good);
-        EXPECT_EQ(engine.score.GetScore(3).Player, "Player1");
-        EXPECT_EQ(engine.score.GetScore(4),
+        engine.score().OpenAllScore();
+        ASSERT_EQ(engine.score().ScoreTop(), 6) << "opening reads afresh";
+        EXPECT_EQ(ScoreLine(engine.score().GetScore(3)), good);
+        EXPECT_EQ(engine.score().GetScore(3).Player, "Player1");
+        EXPECT_EQ(engine.score().GetScore(4),
                   (ScoreRecord{"d", "Zodiac", GameNumber::Text("12"), 1, 2, -3, 0, "Ada"}));
-        EXPECT_EQ(engine.score.GetScore(6),
+        EXPECT_EQ(engine.score().GetScore(6),
                   (ScoreRecord{"f", "B", GameNumber::Text("y"), 1, 2, 5, 0, "Bob"}));
     }
-    engine.score.CloseScore();
-    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    engine.score().CloseScore();
+    EXPECT_EQ(engine.score().ScoreTop(), 0);
 }
 
 TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
     std::filesystem::create_directory(ScoreFile());
     Start("Freecell", 5);
     Heard();
-    engine.CloseGame();
-    EXPECT_FALSE(engine.data.GameRunning);
-    EXPECT_EQ(engine.score.SesTop(), 1);
+    engine.commands().CloseGame();
+    EXPECT_FALSE(engine.data().GameRunning);
+    EXPECT_EQ(engine.score().SesTop(), 1);
     const std::string heard = Heard();
     EXPECT_TRUE(heard.starts_with("message: ")) << heard;
     EXPECT_NE(heard.find(ScoreFile().string()), std::string::npos) << heard;
-    engine.score.OpenAllScore();
-    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    engine.score().OpenAllScore();
+    EXPECT_EQ(engine.score().ScoreTop(), 0);
     Start("Freecell", 6);
     std::filesystem::remove_all(folder.Path() / "data");
     Heard();
-    engine.CloseGame();
+    engine.commands().CloseGame();
     EXPECT_EQ(Heard(), "") << "the folder is made again";
-    engine.score.OpenAllScore();
-    ASSERT_EQ(engine.score.ScoreTop(), 2) << "what couldn't be written was kept";
-    EXPECT_EQ(engine.score.GetScore(1).GameNo, GameNumber::Number(5));
+    engine.score().OpenAllScore();
+    ASSERT_EQ(engine.score().ScoreTop(), 2) << "what couldn't be written was kept";
+    EXPECT_EQ(engine.score().GetScore(1).GameNo, GameNumber::Number(5));
 }
 
 TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {
     ASSERT_EQ(mkfifo(ScoreFile().c_str(), 0600), 0);
-    engine.OpenScores();  // and isn't waited for
-    EXPECT_EQ(engine.score.ScoreTop(), 0);
+    engine.results().OpenScores();  // and isn't waited for
+    EXPECT_EQ(engine.score().ScoreTop(), 0);
     EXPECT_NE(Heard().find("Player1.sre"), std::string::npos);
-    engine.OpenScores();
+    engine.results().OpenScores();
     EXPECT_EQ(Heard(), "") << "told once";
     EXPECT_FALSE(AppendLine(ScoreFile(), "x"));
     std::filesystem::remove(ScoreFile());
     std::filesystem::create_symlink("/dev/zero", ScoreFile());
-    engine.score.OpenAllScore();
+    engine.score().OpenAllScore();
     std::filesystem::remove(ScoreFile());
     const std::filesystem::path lines = folder.Path() / "lines";
     const std::string longest(65536, 'a');
@@ -158,23 +158,23 @@ TEST_F(ScoreFiles, LineThatLacksItsEndAloneIsFinishedAndNotDoubled) {
 }
 
 TEST_F(ScoreFiles, ListOfThisRunHoldsEveryEndedGame) {
-    EXPECT_EQ(engine.score.SesSummary(), ScoreSummary{});
+    EXPECT_EQ(engine.score().SesSummary(), ScoreSummary{});
     Start("Freecell", 5);
-    engine.data.CurScore = -20;
-    engine.data.CurMoves = 7;
-    engine.data.CurTime = 100;
-    engine.EndGame(Outcome::NotWon);
-    engine.data.SetPlayer(2, "Ada", true);
-    engine.StartGame("Zodiac", GameNumber::Text("6"));
-    engine.EndGame(Outcome::Won);
-    ASSERT_EQ(engine.score.SesTop(), 2);
-    EXPECT_EQ(engine.score.GetSes(1),
+    engine.data().CurScore = -20;
+    engine.data().CurMoves = 7;
+    engine.data().CurTime = 100;
+    engine.life().EndGame(Outcome::NotWon);
+    engine.data().SetPlayer(2, "Ada", true);
+    engine.life().StartGame("Zodiac", GameNumber::Text("6"));
+    engine.life().EndGame(Outcome::Won);
+    ASSERT_EQ(engine.score().SesTop(), 2);
+    EXPECT_EQ(engine.score().GetSes(1),
               (ScoreRecord{"", "Freecell", GameNumber::Number(5), 100, 7, -20, 0, "Player1"}));
-    EXPECT_EQ(engine.score.GetSes(2),
+    EXPECT_EQ(engine.score().GetSes(2),
               (ScoreRecord{"", "Zodiac", GameNumber::Text("6"), 100, 7, -20, 1, "Ada"}));
-    EXPECT_EQ(engine.score.SesSummary(), (ScoreSummary{2, 1, 1, -40, 14, 200}));
-    for (int i = 0; i < 33000; ++i) engine.score.AddSesGame(Outcome::NotWon);
-    EXPECT_EQ(engine.score.SesTop(), 32767);
+    EXPECT_EQ(engine.score().SesSummary(), (ScoreSummary{2, 1, 1, -40, 14, 200}));
+    for (int i = 0; i < 33000; ++i) engine.score().AddSesGame(Outcome::NotWon);
+    EXPECT_EQ(engine.score().SesTop(), 32767);
 }
 
 TEST(Summary, StaysAtTheLimitsAndCountsOnlyOneAsWon) {

@@ -6,7 +6,7 @@ namespace {
 
 class Settings : public EngineTest {
 protected:
-    cData& data = engine.data;
+    cData& data = engine.data();
 };
 
 TEST_F(Settings, NonsenseCountsAsTheDefault) {

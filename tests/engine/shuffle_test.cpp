@@ -8,9 +8,9 @@ class Shuffle : public EngineTest {
 protected:
     /// The card values in shuffled order. `game` gives the size of the deck.
     std::vector<int> Order(const GameNumber& number, const std::string& game = "Freecell") {
-        engine.StartGame(game, number);
+        engine.life().StartGame(game, number);
         std::vector<int> values;
-        for (int i = 0; i < engine.games.TotalCards(); ++i) {
+        for (int i = 0; i < engine.games().TotalCards(); ++i) {
             values.push_back(engine.array().GetRandom(i));
         }
         return values;
@@ -22,7 +22,7 @@ TEST_F(Shuffle, FirstGameBeginsAsItAlwaysDid) {
     const std::vector<int> expected{20, 2, 5, 24, 50, 6, 18, 14, 43, 11};
     const std::vector<int> order = Order(1);
     EXPECT_EQ(std::vector<int>(order.begin(), order.begin() + 10), expected);
-    for (int i = 0; i < 7; ++i) engine.RandomGNo();
+    for (int i = 0; i < 7; ++i) engine.choosing().RandomGNo();
     clock.Advance(12345);
     EXPECT_EQ(Order(1), order) << "whatever was drawn before";
     EXPECT_EQ(Order(GameNumber::Number(1), "Penguin"), order);
@@ -46,7 +46,7 @@ TEST_F(Shuffle, SuitTypesFoldThePackSuits) {
         Start("Zodiac");
         std::string bySuitpile;
         for (int suitpile = 0; suitpile < 8; ++suitpile) {
-            bySuitpile += std::to_string(engine.table.Card(Find(kKing, suitpile)).Suit);
+            bySuitpile += std::to_string(engine.table().Card(Find(kKing, suitpile)).Suit);
         }
         return bySuitpile;
     };

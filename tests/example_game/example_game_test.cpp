@@ -51,7 +51,7 @@ TEST_F(ExampleGame, IsWon) {
         double top = 0;
         if (words >> command >> id >> left >> top && command == "drop") Drop(id, left, top);
     }
-    EXPECT_EQ(engine.phase(), Phase::Won);
+    EXPECT_EQ(engine.life().phase(), Phase::Won);
 }
 
 }  // namespace

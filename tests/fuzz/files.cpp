@@ -124,20 +124,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     NullDesktop nothing;
     Engine engine(nothing.Interfaces(folder.path));
     engine.InitMain();
-    const auto scores = ScorePath(engine.data, "Player1");
-    for (const auto& file : {scores, engine.favorites.File()}) {
+    const auto scores = ScorePath(engine.data(), "Player1");
+    for (const auto& file : {scores, engine.favorites().File()}) {
         std::ofstream(file, std::ios::binary) << text;
     }
-    test::CheckScores(engine.score, text);
-    test::CheckFavorites(engine.favorites, text);
+    test::CheckScores(engine.score(), text);
+    test::CheckFavorites(engine.favorites(), text);
 
-    engine.data.CurGName("Penguin");
-    test::Require(engine.score.AddScore(Outcome::Won) &&
-                      engine.favorites.AddFav("Penguin", GameNumber::Number(7)),
+    engine.data().CurGName("Penguin");
+    test::Require(engine.score().AddScore(Outcome::Won) &&
+                      engine.favorites().AddFav("Penguin", GameNumber::Number(7)),
                   "not appended");
     test::CheckAppended(scores, text);
-    test::CheckAppended(engine.favorites.File(), text);
-    test::CheckScores(engine.score, test::BytesOf(scores));
-    test::CheckFavorites(engine.favorites, test::BytesOf(engine.favorites.File()));
+    test::CheckAppended(engine.favorites().File(), text);
+    test::CheckScores(engine.score(), test::BytesOf(scores));
+    test::CheckFavorites(engine.favorites(), test::BytesOf(engine.favorites().File()));
     return 0;
 }

@@ -65,7 +65,7 @@ void CheckChoosable(const std::string& text) {
     const auto value = ParseDecimal(text);
     const float tested = value ? static_cast<float>(*value) : 0.0F;
     const bool inside = tested > 0.0F && static_cast<double>(tested) < 999'999'999'999'999.0;
-    Require(engine.IsChoosable(text) == inside, "whether it can be chosen");
+    Require(engine.choosing().IsChoosable(text) == inside, "whether it can be chosen");
 }
 
 void CheckDate(const std::string& text) {

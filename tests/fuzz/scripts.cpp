@@ -16,12 +16,12 @@ constexpr int kMostLines = 120;
 constexpr int kMostDeals = 16;
 
 void CheckWhole(const Engine& engine) {
-    if (!engine.data.GameRunning) {
-        Require(engine.table.VisibleCards().empty(), "cards without a game");
+    if (!engine.data().GameRunning) {
+        Require(engine.table().VisibleCards().empty(), "cards without a game");
         return;
     }
     const std::string fault =
-        BoardFault(engine.array(), engine.table, engine.games) + LogFault(engine.trans());
+        BoardFault(engine.array(), engine.table(), engine.games()) + LogFault(engine.trans());
     Require(fault.empty(), fault);
 }
 
@@ -29,8 +29,8 @@ void CheckWhole(const Engine& engine) {
 /// press a second card while it holds one, which a mouse can't.
 std::string Places(const Engine& engine) {
     std::ostringstream places;
-    for (PicID id = 0; id < engine.games.TotalCards(); ++id) {
-        const KesCard& card = engine.table.Card(id);
+    for (PicID id = 0; id < engine.games().TotalCards(); ++id) {
+        const KesCard& card = engine.table().Card(id);
         places << static_cast<int>(card.Loc.Cell) << '/' << card.Loc.Pile << '/' << card.Loc.Pos
                << (card.FaceMode == FaceMode::Closed ? "- " : "+ ");
     }
@@ -40,7 +40,7 @@ std::string Places(const Engine& engine) {
 void CheckLog(script::ScriptedTable& table) {
     // A tick makes a replay one that can be stopped.
     for (const char* line : {"release", "forward", "replay stop", "redoall"}) table.Run(line);
-    if (!table.engine().data.GameRunning) return;  // the last move won
+    if (!table.engine().data().GameRunning) return;  // the last move won
     const std::string played = Places(table.engine());
     table.Run("undoall");
     Require(table.engine().trans().GetTransID() == 0, "undo stops half-way");

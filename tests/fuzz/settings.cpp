@@ -27,12 +27,12 @@ void Fill(SettingsStore& store, const std::string& text) {
 void CheckNumbers(const Engine& engine, const SettingsStore& store) {
     for (const NumberKey& key : NumberKeys()) {
         const auto stored = ParseWhole<std::int16_t>(store.Read("Data", key.Key, ""));
-        Require(engine.data.Get(key) == stored.value_or(key.Default), std::string(key.Key));
+        Require(engine.data().Get(key) == stored.value_or(key.Default), std::string(key.Key));
     }
-    const double limit = engine.MaxGNo();
+    const double limit = engine.choosing().MaxGNo();
     Require(limit >= 0 && limit < 1e15, "the highest number");
-    Require(engine.RangeText().starts_with("0 and "), "the range's text");
-    (void)engine.data.CustomColor();
+    Require(engine.choosing().RangeText().starts_with("0 and "), "the range's text");
+    (void)engine.data().CustomColor();
 }
 
 /// A file of the data folder itself, by a name that names a file.
@@ -50,24 +50,24 @@ void CheckPlayers(const cData& data) {
 }
 
 void Play(Engine& engine) {
-    engine.NewGame();
-    Require(engine.data.GameRunning, "no game");
-    Require(engine.data.GetGameID(engine.data.CurGName()) != 0, "a game of no name");
-    for (int tick = 0; tick < 3; ++tick) engine.TimeTick();
-    const PicID top = engine.table.VisibleCards().back();
+    engine.commands().NewGame();
+    Require(engine.data().GameRunning, "no game");
+    Require(engine.data().GetGameID(engine.data().CurGName()) != 0, "a game of no name");
+    for (int tick = 0; tick < 3; ++tick) engine.counters().TimeTick();
+    const PicID top = engine.table().VisibleCards().back();
     engine.gestures().MouseDown(top, 0, 0);
     engine.gestures().MouseUp(top);
-    engine.ToggleAutoplay();
-    engine.ToggleToolbar();
-    engine.Undo();
-    engine.Redo();
-    for (std::int16_t i = 1; i <= kMaxRecent; ++i) engine.RecentGame(i);
-    Require(engine.UpdateMenus().mGame9, "no toolbar item");
-    Require(engine.UpdateRecent()[0].starts_with("&1 "), "the newest game");
-    if (engine.MayAddPlayer()) engine.EnterPlayer("", "Ada");
-    engine.EnterPlayer(engine.data.GetPlayer(1), "Grace");
-    engine.CloseGame();
-    Require(engine.score.SesTop() >= 1, "the game isn't in the list of this run");
+    engine.commands().ToggleAutoplay();
+    engine.commands().ToggleToolbar();
+    engine.commands().Undo();
+    engine.commands().Redo();
+    for (std::int16_t i = 1; i <= kMaxRecent; ++i) engine.commands().RecentGame(i);
+    Require(engine.commands().UpdateMenus().Toolbar, "no toolbar item");
+    Require(engine.commands().UpdateRecent()[0].starts_with("&1 "), "the newest game");
+    if (engine.players().MayAddPlayer()) engine.players().EnterPlayer("", "Ada");
+    engine.players().EnterPlayer(engine.data().GetPlayer(1), "Grace");
+    engine.commands().CloseGame();
+    Require(engine.score().SesTop() >= 1, "the game isn't in the list of this run");
 }
 
 }  // namespace
@@ -83,8 +83,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Engine engine(nothing.Interfaces(folder.path));
     engine.InitMain();
     test::CheckNumbers(engine, nothing.settings);
-    test::CheckPlayers(engine.data);
+    test::CheckPlayers(engine.data());
     test::Play(engine);
-    test::CheckPlayers(engine.data);
+    test::CheckPlayers(engine.data());
     return 0;
 }

@@ -52,16 +52,17 @@ public:
     void PlayGame(int number) {
         const GameRow& row = kCatalogue[static_cast<std::size_t>(number * 8 % kTotalGames)];
         fixture_.Start(row.Name.data(), Below(65536));
-        for (int i = 0; i < kActions && fixture_.engine().data.GameRunning; ++i) Act();
-        if (Below(3) == 0) Menu(fixture_.window.menu().mFile(5));  // the others end under the next
+        for (int i = 0; i < kActions && fixture_.engine().data().GameRunning; ++i) Act();
+        if (Below(3) == 0)
+            Menu(fixture_.window.menu().mFile(FileItem::Close));  // the others end under the next
     }
     /// Ends the last game; the result is how many games the score file lacks or has too many.
     int Missing() {
-        fixture_.engine().CloseGame();
-        return fixture_.engine().score.SesTop() - static_cast<int>(fixture_.Scores().size());
+        fixture_.engine().commands().CloseGame();
+        return fixture_.engine().score().SesTop() - static_cast<int>(fixture_.Scores().size());
     }
 
-    int Moves() { return fixture_.engine().score.SesSummary().Moves; }
+    int Moves() { return fixture_.engine().score().SesSummary().Moves; }
 
 private:
     int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
@@ -76,16 +77,19 @@ private:
         const int dice = Below(100);
         if (dice < 74) return DragSomething();
         if (dice < 82) return ClickStock();
-        if (dice < 88) return Menu(menu.mGame(1 + Below(2)));
-        if (dice < 90) return Menu(menu.mGame(6 + Below(2)));
+        if (dice < 88) return Menu(menu.mGame(Below(2) == 0 ? GameItem::Undo : GameItem::Redo));
+        if (dice < 90)
+            return Menu(menu.mGame(Below(2) == 0 ? GameItem::UndoAll : GameItem::RedoAll));
         if (dice < 92) return Replay();
-        if (dice < 93) return Menu(Below(2) == 0 ? menu.mGame(4) : menu.mGame(9));
+        if (dice < 93)
+            return Menu(Below(2) == 0 ? menu.mGame(GameItem::Autoplay)
+                                      : menu.mGame(GameItem::Toolbar));
         if (dice < 95) return fixture_.window.resize(700 + Below(580), 500 + Below(380));
         OpenDialog();
     }
 
     void DragSomething() {
-        const auto cards = fixture_.engine().table.VisibleCards();
+        const auto cards = fixture_.engine().table().VisibleCards();
         if (cards.empty()) return;
         const PicID card = cards[static_cast<std::size_t>(Below(static_cast<int>(cards.size())))];
         const PicID onto = cards[static_cast<std::size_t>(Below(static_cast<int>(cards.size())))];
@@ -96,7 +100,7 @@ private:
     }
 
     void ClickStock() {
-        const KesEmpty& slot = fixture_.engine().table.PicStock[0];
+        const KesEmpty& slot = fixture_.engine().table().PicStock[0];
         const QPoint at = fixture_.At(slot.Left + 500, slot.Top + 700);
         fixture_.Press(at);
         fixture_.Release(at);
@@ -105,21 +109,26 @@ private:
 
     void Replay() {
         const MainMenu& menu = fixture_.window.menu();
-        Menu(menu.mReplay(Below(3) == 0 ? 4 : 1 + Below(2)));
+        constexpr ReplayItem kItems[] = {ReplayItem::All, ReplayItem::Forward, ReplayItem::Back};
+        Menu(menu.mReplay(kItems[Below(3)]));
         for (int i = Below(6); i > 0; --i) {
-            fixture_.engine().ForwardTick();
-            fixture_.engine().BackwardTick();
+            fixture_.engine().replay().ForwardTick();
+            fixture_.engine().replay().BackwardTick();
             QCoreApplication::processEvents();
         }
-        Menu(menu.mReplay(6));
+        Menu(menu.mReplay(ReplayItem::Stop));
     }
 
     void OpenDialog() {
         const MainMenu& menu = fixture_.window.menu();
-        QAction* const items[] = {menu.mFile(2), menu.mFile(7),  menu.mFav(1),   menu.mFav(2),
-                                  menu.mFav(4),  menu.mStat(1),  menu.mStat(2),  menu.mStat(4),
-                                  menu.mStat(6), menu.mTools(1), menu.mTools(3), menu.mTools(5),
-                                  menu.mHelp(1), menu.mHelp(4)};
+        QAction* const items[] = {
+            menu.mFile(FileItem::Select),    menu.mFile(FileItem::Number),
+            menu.mFav(FavItem::Add),         menu.mFav(FavItem::Organize),
+            menu.mFav(FavItem::Play),        menu.mStat(StatItem::Game),
+            menu.mStat(StatItem::Session),   menu.mStat(StatItem::HighScore),
+            menu.mStat(StatItem::Log),       menu.mTools(ToolsItem::Customize),
+            menu.mTools(ToolsItem::Players), menu.mTools(ToolsItem::History),
+            menu.mHelp(HelpItem::Rules),     menu.mHelp(HelpItem::About)};
         Menu(items[Below(static_cast<int>(std::size(items)))]);
     }
 

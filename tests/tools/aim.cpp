@@ -20,7 +20,7 @@ bool Touches(const Engine& engine, const Aim& aim, const Place& place) {
 /// The tableau is asked before the reserves, these before the foundations, each from pile 0 up.
 bool TouchesEarlierPlace(const Engine& engine, const Aim& aim, const Place& target) {
     for (const Cell cell : {Cell::Home, Cell::Res, Cell::Goal}) {
-        for (int pile = 0; pile < engine.games.Piles(cell); ++pile) {
+        for (int pile = 0; pile < engine.games().Piles(cell); ++pile) {
             if (cell == target.Cell && pile == target.Pile) return false;
             const int pos = cell == Cell::Home ? engine.array().GetTop(cell, pile) : 0;
             if (Touches(engine, aim, {cell, pile, pos})) return true;

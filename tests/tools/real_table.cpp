@@ -15,10 +15,10 @@ constexpr double kGripY = 720;
 RealTable::RealTable(const std::filesystem::path& folder, const std::string& game,
                      const GameNumber& number, bool autoplay)
     : engine_({store_, clock_, surface_, sounds_, messages_, folder}), autoplay_(autoplay) {
-    engine_.onWon = [this] { won_ = true; };
+    engine_.life().OnWon([this] { won_ = true; });
     engine_.InitMain();
-    engine_.data.Set(keys::Autoplay, autoplay ? 1 : 0);
-    engine_.StartGame(game, number);
+    engine_.data().Set(keys::Autoplay, autoplay ? 1 : 0);
+    engine_.life().StartGame(game, number);
     script_ = {std::string("set Autoplay ") + (autoplay ? "1" : "0"),
                "start " + number.Shown() + " " + game};
 }
@@ -30,7 +30,7 @@ State RealTable::ReadState() const {
         const Place at = PlaceOf(map, pile);
         for (int pos = 0; pos <= engine_.array().GetTop(at.Cell, at.Pile); ++pos) {
             const KesCard& card =
-                engine_.table.Card(engine_.array().GetPicID(at.Cell, at.Pile, pos));
+                engine_.table().Card(engine_.array().GetPicID(at.Cell, at.Pile, pos));
             state.Append(pile, static_cast<Kind>(card.Suit * 13 + card.Num));
         }
     }
@@ -52,7 +52,7 @@ std::string RealTable::DropOn(PicID id, const Place& target) {
     Gestures& gestures = engine_.gestures();
     gestures.MouseDown(id, kGripX, kGripY);
     if (gestures.Dragging()) {
-        const KesCard& card = engine_.table.Card(id);
+        const KesCard& card = engine_.table().Card(id);
         gestures.MouseMove(id, aim.left - card.Left + kGripX, aim.top - card.Top + kGripY);
         gestures.MouseUp(id);
     }

@@ -20,7 +20,7 @@ public:
     RealTable(const std::filesystem::path& folder, const std::string& game,
               const GameNumber& number, bool autoplay);
 
-    Rules ReadRules() const { return Rules(engine_.games, autoplay_); }
+    Rules ReadRules() const { return Rules(engine_.games(), autoplay_); }
     State ReadState() const;
 
     /// Plays the line and tells its script, one command a line. Nothing when the engine doesn't do

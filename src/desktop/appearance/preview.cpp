@@ -48,16 +48,16 @@ QRect VisiblePart(QSize table, const QRect& cards, int margin) {
 QPixmap PreviewOf(const std::string& game, double ratio) {
     NullDesktop nothing;
     Engine engine(nothing.Interfaces({}));
-    engine.data.Set(keys::Autoplay, 0);
-    engine.StartGame(game, GameNumber::Number(kDealNumber));
+    engine.data().Set(keys::Autoplay, 0);
+    engine.life().StartGame(game, GameNumber::Number(kDealNumber));
 
     const CardPictures pictures(ratio);
     QImage picture = BackgroundPicture(ratio, {.fade = false});
     QPainter painter(&picture);
-    PaintTable(painter, engine.table, pictures, keys::DeckIndex.Default, picture.rect());
+    PaintTable(painter, engine.table(), pictures, keys::DeckIndex.Default, picture.rect());
     painter.end();
 
-    const QRect cards = Covered(engine.table, pictures);
+    const QRect cards = Covered(engine.table(), pictures);
     const QImage small =
         picture.copy(VisiblePart(picture.size(), cards, pictures.CardSize().width() / 4))
             .scaled(kPreviewSize * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -43,8 +43,8 @@ PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
       lvFav_(NumbersList()),
       cmdPlay_(new QPushButton(QStringLiteral("Play"))) {
     setWindowTitle(QStringLiteral("Play from Favorites"));
-    engine_.favorites.OpenFav();
-    FillGames(*imcGames_, engine_.data, engine_.data.CurGName());
+    engine_.favorites().OpenFav();
+    FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
     imcGames_->setAccessibleName(QStringLiteral("Game"));
 
     auto* buttons = new QDialogButtonBox;
@@ -65,7 +65,7 @@ PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
 }
 
 void PlayFavoriteDialog::UpdateLVFav() {
-    FillNumbers(*lvFav_, engine_.favorites, imcGames_->currentText());
+    FillNumbers(*lvFav_, engine_.favorites(), imcGames_->currentText());
     lvFav_->setCurrentRow(lvFav_->count() - 1);  // the newest one
     cmdPlay_->setEnabled(lvFav_->count() > 0);
 }
@@ -85,8 +85,8 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
       lvFav_(NumbersList()),
       cmdClear_(new QPushButton(QStringLiteral("Clear Favorites"))) {
     setWindowTitle(QStringLiteral("Organize Favorites"));
-    engine_.favorites.OpenFav();
-    const cData& data = engine_.data;
+    engine_.favorites().OpenFav();
+    const cData& data = engine_.data();
     lvGames_->setAccessibleName(QStringLiteral("Game"));
     for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
         auto* item = new QListWidgetItem(SmallIcon(QStringLiteral("game")), ToQt(data.GetGName(id)),
@@ -112,12 +112,12 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
     resize(kOrganizeSize);
 
     close->setDefault(true);
-    cmdClear_->setEnabled(engine_.favorites.FavTop() >= 1);
+    cmdClear_->setEnabled(engine_.favorites().FavTop() >= 1);
     connect(lvGames_, &QListWidget::currentRowChanged, this, &OrganizeFavoritesDialog::UpdateLVFav);
     connect(cmdClear_, &QPushButton::clicked, this, &OrganizeFavoritesDialog::Clear);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(&Timer1_, &QTimer::timeout, this,
-            [this] { cmdClear_->setEnabled(engine_.favorites.FavTop() >= 1); });
+            [this] { cmdClear_->setEnabled(engine_.favorites().FavTop() >= 1); });
     Timer1_.start(kClearPoll);
     UpdateLVFav();
     lvGames_->setFocus();
@@ -125,11 +125,11 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
 
 void OrganizeFavoritesDialog::UpdateLVFav() {
     const QListWidgetItem* game = lvGames_->currentItem();
-    FillNumbers(*lvFav_, engine_.favorites, game ? game->text() : QString());
+    FillNumbers(*lvFav_, engine_.favorites(), game ? game->text() : QString());
 }
 
 void OrganizeFavoritesDialog::Clear() {
-    engine_.ClearFavorites();
+    engine_.choosing().ClearFavorites();
     UpdateLVFav();
 }
 

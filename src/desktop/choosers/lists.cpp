@@ -24,12 +24,19 @@ void FillGames(QComboBox& combo, const cData& data, const std::string& selected)
     Select(combo, selected);
 }
 
+QStringList PlayerNames(const cData& data) {
+    QStringList names;
+    const std::int16_t players = data.TotalPlayers();
+    for (std::int16_t slot = 1; slot <= players; ++slot) names << ToQt(data.GetPlayer(slot));
+    return names;
+}
+
 void FillPlayers(QComboBox& combo, const cData& data) {
     // However long a name is that was edited into the settings, the window stays as it is.
     combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo.setMinimumContentsLength(kNameShown);
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        combo.addItem(SmallIcon(QStringLiteral("player")), ToQt(data.GetPlayer(slot)));
+    for (const QString& name : PlayerNames(data)) {
+        combo.addItem(SmallIcon(QStringLiteral("player")), name);
     }
     Select(combo, data.CurPlayer());
 }

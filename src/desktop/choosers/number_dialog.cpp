@@ -24,16 +24,16 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
       players_(new QComboBox),
       number_(new QLineEdit) {
     setWindowTitle(QStringLiteral("Select a Game Number"));
-    FillGames(*games_, engine_.data, engine_.data.CurGName());
-    FillPlayers(*players_, engine_.data);
-    number_->setText(ToQt(engine_.RandomGNo().Shown()));
+    FillGames(*games_, engine_.data(), engine_.data().CurGName());
+    FillPlayers(*players_, engine_.data());
+    number_->setText(ToQt(engine_.choosing().RandomGNo().Shown()));
     number_->setValidator(new OneLineValidator(number_, kLongestNumber));
 
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Game"), games_);
     form->addRow(QStringLiteral("P&layer"), players_);
     auto* name = new QLabel(QStringLiteral("Enter a Game Number between"));
-    auto* range = new QLabel(ToQt(engine_.RangeText()));
+    auto* range = new QLabel(ToQt(engine_.choosing().RangeText()));
     name->setBuddy(number_);
     number_->setAccessibleName(name->text() + ' ' + range->text());
 
@@ -60,7 +60,7 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
 
 void NumberDialog::Select() {
     const std::string number = number_->text().toStdString();
-    if (engine_.AcceptNumber(number)) {
+    if (engine_.choosing().AcceptNumber(number)) {
         choice_ = GameChoice{.Game = games_->currentText().toStdString(),
                              .Number = GameNumber::Text(number),
                              .Player = players_->currentText().toStdString()};

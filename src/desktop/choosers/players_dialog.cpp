@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/choosers/lists.h"
 #include "desktop/choosers/one_line_validator.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
@@ -56,12 +57,10 @@ QPushButton* PlayersDialog::Button(const QString& text) const {
 
 void PlayersDialog::RefreshList() {
     lvPlayer_->clear();
-    const cData& data = engine_.data;
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        const std::string name = data.GetPlayer(slot);
-        auto* item =
-            new QListWidgetItem(SmallIcon(QStringLiteral("player")), ToQt(name), lvPlayer_);
-        if (name == data.CurPlayer()) lvPlayer_->setCurrentItem(item);
+    const cData& data = engine_.data();
+    for (const QString& name : PlayerNames(data)) {
+        auto* item = new QListWidgetItem(SmallIcon(QStringLiteral("player")), name, lvPlayer_);
+        if (name == ToQt(data.CurPlayer())) lvPlayer_->setCurrentItem(item);
     }
     if (!lvPlayer_->currentItem()) lvPlayer_->setCurrentRow(0);
     UpdateDelete();
@@ -74,7 +73,7 @@ std::string PlayersDialog::SelectedName() const {
 
 void PlayersDialog::UpdateDelete() {
     const std::string name = SelectedName();
-    cmdDelete_->setEnabled(!name.empty() && name != engine_.data.CurPlayer());
+    cmdDelete_->setEnabled(!name.empty() && name != engine_.data().CurPlayer());
 }
 
 void PlayersDialog::AskInput(const QString& label, const std::string& name) {
@@ -83,7 +82,7 @@ void PlayersDialog::AskInput(const QString& label, const std::string& name) {
 }
 
 void PlayersDialog::Add() {
-    if (engine_.MayAddPlayer()) AskInput(QStringLiteral("Add Player"), {});
+    if (engine_.players().MayAddPlayer()) AskInput(QStringLiteral("Add Player"), {});
 }
 
 void PlayersDialog::Edit() {
@@ -93,13 +92,13 @@ void PlayersDialog::Edit() {
 
 void PlayersDialog::Delete() {
     if (!AskYesNo(this, kDeletePlayerQuestion, QMessageBox::Critical)) return;
-    if (engine_.DeletePlayer(SelectedName())) RefreshList();
+    if (engine_.players().DeletePlayer(SelectedName())) RefreshList();
 }
 
 void PlayersDialog::Select() {
     const std::string name = SelectedName();
     if (name.empty()) return;
-    engine_.data.CurPlayer(name);
+    engine_.data().CurPlayer(name);
     accept();
 }
 
@@ -127,7 +126,7 @@ NameDialog::NameDialog(Engine& engine, const QString& label, const std::string& 
 }
 
 void NameDialog::Ok() {
-    if (engine_.EnterPlayer(oldName_, Text1_->text().toStdString())) return accept();
+    if (engine_.players().EnterPlayer(oldName_, Text1_->text().toStdString())) return accept();
     Text1_->setFocus();
 }
 

@@ -14,7 +14,7 @@ namespace varnello {
 namespace {
 
 constexpr int kTreeWidth = 230;
-constexpr int kPlayersPoll = 250;  // milliseconds
+constexpr int kPlayersPoll = 500;  // milliseconds
 
 }  // namespace
 
@@ -61,7 +61,7 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     all->addWidget(tree_, 1);
     all->addLayout(right);
 
-    FillPlayers(*players_, engine_.data);
+    FillPlayers(*players_, engine_.data());
     FillTree();
     connect(tree_, &QTreeWidget::currentItemChanged, this, &SelectDialog::ShowGame);
     connect(tree_, &QTreeWidget::itemDoubleClicked, this, &SelectDialog::Play);
@@ -78,21 +78,18 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
 }
 
 void SelectDialog::FollowPlayers() {
-    QStringList listed;
-    for (std::int16_t slot = 1; slot <= engine_.data.TotalPlayers(); ++slot) {
-        listed << ToQt(engine_.data.GetPlayer(slot));
-    }
+    const QStringList listed = PlayerNames(engine_.data());
     QStringList shown;
     for (int i = 0; i < players_->count(); ++i) shown << players_->itemText(i);
     if (listed == shown) return;
     const QString selected = players_->currentText();
     players_->clear();
-    FillPlayers(*players_, engine_.data);
+    FillPlayers(*players_, engine_.data());
     if (listed.contains(selected)) players_->setCurrentText(selected);
 }
 
 void SelectDialog::FillTree() {
-    const cData& data = engine_.data;
+    const cData& data = engine_.data();
     auto* root = new QTreeWidgetItem(tree_, {QStringLiteral("Games")});
     root->setIcon(0, SmallIcon(QStringLiteral("games")));
     const QString last = ToQt(data.LastGName());

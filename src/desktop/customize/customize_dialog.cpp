@@ -55,8 +55,8 @@ std::int32_t ValueOfColour(const QColor& colour) {
 CustomizeDialog::CustomizeDialog(Engine& engine, QWidget* parent)
     : QDialog(parent),
       engine_(engine),
-      background_(StoredBackground(engine.data)),
-      deck_(engine.data.Get(keys::DeckIndex)),
+      background_(StoredBackground(engine.data())),
+      deck_(engine.data().Get(keys::DeckIndex)),
       SSTab1_(new QTabWidget),
       tvBGround_(new QTreeWidget),
       Picture1_(new LookPreview(QStringLiteral("Background preview"))),
@@ -97,11 +97,11 @@ void CustomizeDialog::ChooseColor() {
 void CustomizeDialog::ClearRecent() {
     if (!AskYesNo(this, kClearRecentQuestion)) return;
     cmdClearRecent_->setEnabled(false);
-    engine_.ClearRecentGames();
+    engine_.choosing().ClearRecentGames();
 }
 
 void CustomizeDialog::Ok() {
-    cData& data = engine_.data;
+    cData& data = engine_.data();
     for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
         data.Set(kSpeeds[i].key, static_cast<std::int16_t>(kSlowest - sliders_[i]->value()));
     }
@@ -121,9 +121,9 @@ QWidget* CustomizeDialog::MakeCounters() {
     auto* rows = new QVBoxLayout(frame);
     for (const CounterRow& row : kCounters) {
         auto* box = new QCheckBox(QString::fromLatin1(row.text));
-        box->setChecked(engine_.data.Get(row.key) == 1);
+        box->setChecked(engine_.data().Get(row.key) == 1);
         connect(box, &QCheckBox::toggled, this,
-                [this, key = row.key](bool on) { engine_.data.Set(key, on ? 1 : 0); });
+                [this, key = row.key](bool on) { engine_.data().Set(key, on ? 1 : 0); });
         rows->addWidget(box);
     }
     return frame;
@@ -139,9 +139,9 @@ QWidget* CustomizeDialog::MakeRange() {
     for (std::int16_t index = 1; index <= 15; ++index) {
         imcRange_->addItem(ToQt(HighestNumberText(index)));
     }
-    imcRange_->setCurrentIndex(engine_.data.Get(keys::RangeIndex) - 1);
+    imcRange_->setCurrentIndex(engine_.data().Get(keys::RangeIndex) - 1);
     connect(imcRange_, &QComboBox::activated, this, [this](int index) {
-        engine_.data.Set(keys::RangeIndex, static_cast<std::int16_t>(index + 1));
+        engine_.data().Set(keys::RangeIndex, static_cast<std::int16_t>(index + 1));
     });
     rows->addWidget(label);
     rows->addWidget(imcRange_);
@@ -153,7 +153,7 @@ QWidget* CustomizeDialog::MakeRecent() {
     auto* row = new QHBoxLayout(frame);
     cmdClearRecent_ = new QPushButton(QStringLiteral("Clear"));
     cmdClearRecent_->setAutoDefault(false);
-    cmdClearRecent_->setEnabled(engine_.data.RecentCount() > 0);
+    cmdClearRecent_->setEnabled(engine_.data().RecentCount() > 0);
     connect(cmdClearRecent_, &QPushButton::clicked, this, &CustomizeDialog::ClearRecent);
     row->addWidget(new QLabel(QStringLiteral("Clear  Recent Games List")));
     row->addStretch();
@@ -167,12 +167,12 @@ QWidget* CustomizeDialog::MakeStatistics() {
     auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
     exportStat->setAutoDefault(false);
     connect(exportStat, &QPushButton::clicked, this, [this] {
-        if (const auto file = AskForReportFile(this)) engine_.ExportStat(*file);
+        if (const auto file = AskForReportFile(this)) engine_.results().ExportStat(*file);
     });
     auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
     clearStat->setAutoDefault(false);
     connect(clearStat, &QPushButton::clicked, this, [this] {
-        if (AskYesNo(this, kClearStatQuestion)) engine_.ClearStat();
+        if (AskYesNo(this, kClearStatQuestion)) engine_.results().ClearStat();
     });
     row->addWidget(exportStat);
     row->addWidget(clearStat);
@@ -199,7 +199,7 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
         slider->setRange(0, kSlowest);
         slider->setSingleStep(1);
         slider->setPageStep(5);
-        slider->setValue(kSlowest - engine_.data.Get(kSpeeds[i].key));
+        slider->setValue(kSlowest - engine_.data().Get(kSpeeds[i].key));
         slider->setAccessibleName(frame->title());
         sliders_[i] = slider;
         auto* inside = new QVBoxLayout(frame);
@@ -223,7 +223,7 @@ void CustomizeDialog::FillSounds() {
     for (const SoundRow& row : kSounds) {
         auto* item = new QListWidgetItem(QString::fromLatin1(row.text), lvSound_);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        item->setCheckState(engine_.data.Get(row.key) == kTrue ? Qt::Checked : Qt::Unchecked);
+        item->setCheckState(engine_.data().Get(row.key) == kTrue ? Qt::Checked : Qt::Unchecked);
     }
 }
 

@@ -74,11 +74,11 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
     all->addWidget(SSTab1_);
     all->addWidget(MakeButtons());
     resize(kSize);
-    engine_.OpenScores();
+    engine_.results().OpenScores();
     Fill();
 }
 
-GameStatDialog::~GameStatDialog() { engine_.score.CloseScore(); }
+GameStatDialog::~GameStatDialog() { engine_.score().CloseScore(); }
 
 QWidget* GameStatDialog::MakeGeneral() {
     auto* page = new QWidget;
@@ -98,7 +98,7 @@ QWidget* GameStatDialog::MakeGames() {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     lvGames_->SetIcon(SmallIcon(QStringLiteral("game")));
-    FillGames(*imcGames_, engine_.data, engine_.data.CurGName());
+    FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
     imcGames_->setAccessibleName(QStringLiteral("Game shown in the charts"));
     connect(imcGames_, &QComboBox::activated, this, &GameStatDialog::ShowGame);
     column->addWidget(new ReportView(lvGames_, QStringLiteral("Games")), 1);
@@ -130,7 +130,7 @@ QWidget* GameStatDialog::MakePlayers() {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     lvPlayer_->SetIcon(SmallIcon(QStringLiteral("player")));
-    FillPlayers(*imcPlayer_, engine_.data);
+    FillPlayers(*imcPlayer_, engine_.data());
     imcPlayer_->setAccessibleName(QStringLiteral("Player shown in the charts"));
     connect(imcPlayer_, &QComboBox::activated, this, &GameStatDialog::ShowPlayer);
     column->addWidget(new ReportView(lvPlayer_, QStringLiteral("Players")), 1);
@@ -151,7 +151,7 @@ QWidget* GameStatDialog::MakeButtons() {
     cmdClose->setDefault(true);
     // The figures stay as they are until the window opens again.
     connect(cmdClear, &QPushButton::clicked, this, [this] {
-        if (AskYesNo(this, kClearStatQuestion)) engine_.ClearStat();
+        if (AskYesNo(this, kClearStatQuestion)) engine_.results().ClearStat();
     });
     connect(cmdExport, &QPushButton::clicked, this, &GameStatDialog::Export);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -160,15 +160,15 @@ QWidget* GameStatDialog::MakeButtons() {
 
 void GameStatDialog::Fill() {
     FillGeneral();
-    lvGames_->SetRows(GameRows(engine_.score, engine_.data));
+    lvGames_->SetRows(GameRows(engine_.score(), engine_.data()));
     ShowGame();
     ShowPeriods();
-    lvPlayer_->SetRows(PlayerRows(engine_.score, engine_.data));
+    lvPlayer_->SetRows(PlayerRows(engine_.score(), engine_.data()));
     ShowPlayer();
 }
 
 void GameStatDialog::FillGeneral() {
-    const ScoreSummary summary = engine_.score.AllSummary();
+    const ScoreSummary summary = engine_.score().AllSummary();
     lvGeneral_->clear();
     for (const std::string& line : GeneralLines(summary)) lvGeneral_->addItem(ToQt(line));
     ShowShare(*chGen_, summary);
@@ -177,13 +177,13 @@ void GameStatDialog::FillGeneral() {
 
 void GameStatDialog::ShowGame() {
     const std::string game = imcGames_->currentText().toStdString();
-    ShowShare(*chGames_, engine_.score.GameSummary(game));
-    ShowFigures(*chGames1_, FirstGames(engine_.score, game));
+    ShowShare(*chGames_, engine_.score().GameSummary(game));
+    ShowFigures(*chGames1_, FirstGames(engine_.score(), game));
 }
 
 void GameStatDialog::ShowPeriods() {
     const auto choice = PeriodChoices()[static_cast<std::size_t>(imcDate_->currentIndex())];
-    const auto periods = PeriodRows(engine_.score, choice, engine_.Now());
+    const auto periods = PeriodRows(engine_.score(), choice, engine_.Now());
     ChartTable played{
         .labels = {QStringLiteral("Played"), QStringLiteral("Won")}, .rows = {}, .rowNames = {}};
     std::vector<GameFigures> figures;
@@ -200,7 +200,7 @@ void GameStatDialog::ShowPeriods() {
 
 void GameStatDialog::ShowPlayer() {
     const ScoreSummary summary =
-        engine_.score.PlayerSummary(imcPlayer_->currentText().toStdString());
+        engine_.score().PlayerSummary(imcPlayer_->currentText().toStdString());
     ShowShare(*chPlayer_, summary);
     ShowTotals(*chPlayer1_, summary.Score, summary.Moves, summary.Time);
 }
@@ -208,8 +208,8 @@ void GameStatDialog::ShowPlayer() {
 void GameStatDialog::Export() {
     const auto file = AskForReportFile(this);
     if (!file) return;
-    engine_.ExportStat(*file);
-    engine_.OpenScores();  // the export has closed the list
+    engine_.results().ExportStat(*file);
+    engine_.results().OpenScores();  // the export has closed the list
     Fill();
 }
 

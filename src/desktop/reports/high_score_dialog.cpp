@@ -50,8 +50,8 @@ HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
       imcFin_(new QComboBox) {
     setWindowTitle(QStringLiteral("High Score"));
     setWindowIcon(SmallIcon(QStringLiteral("highscore")));
-    FillGames(*imcGames_, engine.data, engine.data.CurGName());
-    FillPlayers(*imcPlayer_, engine.data);
+    FillGames(*imcGames_, engine.data(), engine.data().CurGName());
+    FillPlayers(*imcPlayer_, engine.data());
     for (const Ranking& ranking : kRankings) imcFin_->addItem(QString::fromLatin1(ranking.text));
     imcGames_->setAccessibleName(QStringLiteral("Game"));
     imcPlayer_->setAccessibleName(QStringLiteral("Player"));
@@ -76,14 +76,14 @@ HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
     connect(imcPlayer_, &QComboBox::activated, this, &HighScoreDialog::FillPlayer);
     connect(imcFin_, &QComboBox::activated, this, &HighScoreDialog::FillFinished);
 
-    engine_.OpenScores();
-    lvTop_->SetRows(TopRows(engine_.score, engine_.dates()));
+    engine_.results().OpenScores();
+    lvTop_->SetRows(TopRows(engine_.score(), engine_.dates()));
     FillGame();
     FillPlayer();
     FillFinished();
 }
 
-HighScoreDialog::~HighScoreDialog() { engine_.score.CloseScore(); }
+HighScoreDialog::~HighScoreDialog() { engine_.score().CloseScore(); }
 
 QWidget* HighScoreDialog::MakeSheet(QComboBox* filter, RowsModel* model, const QString& name) {
     auto* page = new QWidget;
@@ -100,18 +100,18 @@ QWidget* HighScoreDialog::MakeSheet(QComboBox* filter, RowsModel* model, const Q
 
 void HighScoreDialog::FillGame() {
     lvGames_->SetRows(
-        TopRowsOfGame(engine_.score, imcGames_->currentText().toStdString(), engine_.dates()));
+        TopRowsOfGame(engine_.score(), imcGames_->currentText().toStdString(), engine_.dates()));
 }
 
 void HighScoreDialog::FillPlayer() {
     lvPlayer_->SetRows(
-        TopRowsOfPlayer(engine_.score, imcPlayer_->currentText().toStdString(), engine_.dates()));
+        TopRowsOfPlayer(engine_.score(), imcPlayer_->currentText().toStdString(), engine_.dates()));
 }
 
 void HighScoreDialog::FillFinished() {
     const Ranking& ranking = kRankings[static_cast<std::size_t>(imcFin_->currentIndex())];
     lvFin_->SetBoldColumn(ColumnOf(kFinishedFields, ranking.field));
-    lvFin_->SetRows(FinishedRows(engine_.score, ranking.by, engine_.dates()));
+    lvFin_->SetRows(FinishedRows(engine_.score(), ranking.by, engine_.dates()));
 }
 
 }  // namespace varnello

@@ -30,11 +30,11 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
       imcDate_(new QComboBox) {
     setWindowTitle(QStringLiteral("Log Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
-    engine_.OpenScores();
-    lvLog_ = new LogModel(engine_.score.List(), engine_.dates(), this);
+    engine_.results().OpenScores();
+    lvLog_ = new LogModel(engine_.score().List(), engine_.dates(), this);
 
-    FillPlayers(*imcPlayer_, engine.data);
-    FillGames(*imcGames_, engine.data, {});
+    FillPlayers(*imcPlayer_, engine.data());
+    FillGames(*imcGames_, engine.data(), {});
     imcPlayer_->insertItem(0, SmallIcon(QStringLiteral("player")), QStringLiteral("All Players"));
     imcGames_->insertItem(0, SmallIcon(QStringLiteral("games")), QStringLiteral("All Games"));
     for (const AgeChoice& age : AgeChoices()) imcDate_->addItem(ToQt(age.Text));
@@ -62,14 +62,14 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
     resize(kSize);
 }
 
-LogDialog::~LogDialog() { engine_.score.CloseScore(); }
+LogDialog::~LogDialog() { engine_.score().CloseScore(); }
 
 void LogDialog::FillLog() {
     const LogFilter filter{
         .Player = Chosen(*imcPlayer_),
         .Game = Chosen(*imcGames_),
         .Age = &AgeChoices()[static_cast<std::size_t>(imcDate_->currentIndex())]};
-    lvLog_->SetPositions(LogPositions(engine_.score.List(), filter, engine_.Now()));
+    lvLog_->SetPositions(LogPositions(engine_.score().List(), filter, engine_.Now()));
 }
 
 }  // namespace varnello

@@ -54,7 +54,7 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
       detailView_(new ReportView(lvSesChart_, QStringLiteral("Games of this session by figures"))),
       chSummary_(MakeChart(ChartKind::Share, QStringLiteral("Games won and lost"))),
       chChart_(MakeChart(ChartKind::Rows, QStringLiteral("Score, moves and time game by game"))),
-      running_(engine.data.GameRunning) {
+      running_(engine.data().GameRunning) {
     setWindowTitle(QStringLiteral("Session Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
     SSTab1_->addTab(MakeSummary(), QStringLiteral("Summary"));
@@ -69,12 +69,12 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
 
     lvSession_->SetIcon(SmallIcon(QStringLiteral("game")));
     if (running_) {
-        lvSession_->SetColouredRow(engine.score.SesTop(), RunningColour(palette()));
-        lvSesChart_->SetColouredRow(engine.score.SesTop(), RunningColour(palette()));
+        lvSession_->SetColouredRow(engine.score().SesTop(), RunningColour(palette()));
+        lvSesChart_->SetColouredRow(engine.score().SesTop(), RunningColour(palette()));
     }
     lvSession_->SetRows(SessionRows(engine));
     lvSesChart_->SetRows(DetailRows(engine));
-    ShowShare(*chSummary_, engine.score.SesSummary());
+    ShowShare(*chSummary_, engine.score().SesSummary());
     FillTable();
     ShowFigures(*chChart_, table_);
     if (running_) {
@@ -138,17 +138,17 @@ QWidget* SessionDialog::MakeDetails() {
 
 void SessionDialog::FillTable() {
     table_.clear();
-    for (std::int16_t i = 1; i <= engine_.score.SesTop(); ++i) {
-        const ScoreRecord game = engine_.score.GetSes(i);
+    for (std::int16_t i = 1; i <= engine_.score().SesTop(); ++i) {
+        const ScoreRecord game = engine_.score().GetSes(i);
         table_.push_back({game.Score, game.Moves, game.Time});
     }
     if (!running_) return;
-    table_.push_back(RunningFigures(engine_.data));
+    table_.push_back(RunningFigures(engine_.data()));
 }
 
 void SessionDialog::Tick() {
     lblSesElapsedTime_->setText(ToQt(SessionElapsedLabel(engine_)));
-    if (!running_ || !engine_.data.GameRunning) return;
+    if (!running_ || !engine_.data().GameRunning) return;
     const int row = static_cast<int>(table_.size()) - 1;
     lvSession_->UpdateRow(row, RunningSessionRow(engine_), {kSessionTime, kSessionScore});
     lvSesChart_->UpdateRow(row, RunningDetailRow(engine_), {kDetailTime, kDetailScore});
@@ -158,8 +158,8 @@ void SessionDialog::Tick() {
 }
 
 void SessionDialog::RefreshChart() {
-    if (!running_ || !engine_.data.GameRunning) return;
-    table_.back() = RunningFigures(engine_.data);
+    if (!running_ || !engine_.data().GameRunning) return;
+    table_.back() = RunningFigures(engine_.data());
     ShowFigures(*chChart_, table_);
 }
 

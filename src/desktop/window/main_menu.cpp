@@ -19,23 +19,21 @@ MainMenu::MainMenu(QMenuBar& bar, Engine& engine, Shell& shell)
     BuildCounters();
 }
 
-template <std::size_t N, typename Action>
-QAction* MainMenu::AddStart(QMenu* menu, std::array<QAction*, N>& items, int index,
-                            const QString& caption, const QKeySequence& key, Action&& action) {
-    QAction* item = menu->addAction(caption);
+template <typename Action>
+void MainMenu::AddStart(QMenu* menu, QAction*& item, const QString& caption,
+                        const QKeySequence& key, Action&& action) {
+    item = menu->addAction(caption);
     item->setShortcut(key);
     QObject::connect(item, &QAction::triggered, item, [this, action] {
         action();
         shell_.Refresh();
     });
-    items.at(static_cast<std::size_t>(index)) = item;
-    return item;
 }
 
-template <std::size_t N, typename Action>
-void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
-                   const QKeySequence& key, Action&& action) {
-    AddStart(menu, items, index, caption, key, [this, action] {
+template <typename Action>
+void MainMenu::Add(QMenu* menu, QAction*& item, const QString& caption, const QKeySequence& key,
+                   Action&& action) {
+    AddStart(menu, item, caption, key, [this, action] {
         shell_.Settle();
         action();
     });
@@ -43,103 +41,112 @@ void MainMenu::Add(QMenu* menu, std::array<QAction*, N>& items, int index, const
 
 void MainMenu::BuildFile() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&File"));
-    AddStart(menu, file_, 1, QStringLiteral("&New Game"), Qt::Key_F2, [this] { shell_.NewGame(); });
-    AddStart(menu, file_, 2, QStringLiteral("&Select Game"), Qt::Key_F3,
+    AddStart(menu, file_[FileItem::New], QStringLiteral("&New Game"), Qt::Key_F2,
+             [this] { engine_.commands().NewGame(); });
+    AddStart(menu, file_[FileItem::Select], QStringLiteral("&Select Game"), Qt::Key_F3,
              [this] { shell_.ShowSelect(); });
     menu->addSeparator();
-    AddStart(menu, file_, 4, QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
-             [this] { shell_.RestartGame(); });
-    Add(menu, file_, 5, QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
-        [this] { engine_.CloseGame(); });
+    AddStart(menu, file_[FileItem::Restart], QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
+             [this] { engine_.commands().RestartGame(); });
+    Add(menu, file_[FileItem::Close], QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
+        [this] { engine_.commands().CloseGame(); });
     menu->addSeparator();
-    AddStart(menu, file_, 7, QStringLiteral("Select a Number"), Qt::SHIFT | Qt::Key_F2,
-             [this] { shell_.ShowChoose(); });
+    AddStart(menu, file_[FileItem::Number], QStringLiteral("Select a Number"),
+             Qt::SHIFT | Qt::Key_F2, [this] { shell_.ShowChoose(); });
     menu->addSeparator();
     QMenu* recent = menu->addMenu(QStringLiteral("Recent Games"));
-    file_[9] = recent->menuAction();
+    file_[FileItem::Recent] = recent->menuAction();
     for (int i = 1; i <= kMaxRecent; ++i) {
-        AddStart(recent, recent_, i, {}, {}, [this, i] { shell_.RecentGame(i); });
+        AddStart(recent, recent_[static_cast<std::size_t>(i)], {}, {},
+                 [this, i] { engine_.commands().RecentGame(Narrow16(i)); });
     }
     menu->addSeparator();
     // Ends the process at once: a running game leaves no record.
-    Add(menu, file_, 11, QStringLiteral("E&xit"), {}, [] { std::_Exit(0); });
+    Add(menu, file_[FileItem::Exit], QStringLiteral("E&xit"), {}, [] { std::_Exit(0); });
 }
 
 void MainMenu::BuildGame() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Game"));
-    Add(menu, game_, 1, QStringLiteral("&Undo"), Qt::CTRL | Qt::Key_Z, [this] { engine_.Undo(); });
-    Add(menu, game_, 2, QStringLiteral("&Redo"), Qt::CTRL | Qt::Key_X, [this] { engine_.Redo(); });
+    Add(menu, game_[GameItem::Undo], QStringLiteral("&Undo"), Qt::CTRL | Qt::Key_Z,
+        [this] { engine_.commands().Undo(); });
+    Add(menu, game_[GameItem::Redo], QStringLiteral("&Redo"), Qt::CTRL | Qt::Key_X,
+        [this] { engine_.commands().Redo(); });
     menu->addSeparator();
-    Add(menu, game_, 4, QStringLiteral("Autoplay"), Qt::Key_F7,
-        [this] { engine_.ToggleAutoplay(); });
+    Add(menu, game_[GameItem::Autoplay], QStringLiteral("Autoplay"), Qt::Key_F7,
+        [this] { engine_.commands().ToggleAutoplay(); });
     menu->addSeparator();
-    Add(menu, game_, 6, QStringLiteral("U&ndo All"), Qt::CTRL | Qt::Key_C,
-        [this] { engine_.UndoAll(); });
-    Add(menu, game_, 7, QStringLiteral("R&edo All"), Qt::CTRL | Qt::Key_V,
-        [this] { engine_.RedoAll(); });
+    Add(menu, game_[GameItem::UndoAll], QStringLiteral("U&ndo All"), Qt::CTRL | Qt::Key_C,
+        [this] { engine_.commands().UndoAll(); });
+    Add(menu, game_[GameItem::RedoAll], QStringLiteral("R&edo All"), Qt::CTRL | Qt::Key_V,
+        [this] { engine_.commands().RedoAll(); });
     menu->addSeparator();
-    Add(menu, game_, 9, QStringLiteral("View Toolbar"), {}, [this] {
-        engine_.ToggleToolbar();
+    Add(menu, game_[GameItem::Toolbar], QStringLiteral("View Toolbar"), {}, [this] {
+        engine_.commands().ToggleToolbar();
         shell_.LayoutMain();
     });
-    game_[4]->setCheckable(true);
-    game_[9]->setCheckable(true);
+    game_[GameItem::Autoplay]->setCheckable(true);
+    game_[GameItem::Toolbar]->setCheckable(true);
 }
 
 void MainMenu::BuildReplay() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Replay"));
-    Add(menu, replay_, 1, QStringLiteral("&Forward"), Qt::SHIFT | Qt::Key_F3,
-        [this] { engine_.ReplayForward(); });
-    Add(menu, replay_, 2, QStringLiteral("&Back"), Qt::SHIFT | Qt::Key_F4,
-        [this] { engine_.ReplayBack(); });
+    Add(menu, replay_[ReplayItem::Forward], QStringLiteral("&Forward"), Qt::SHIFT | Qt::Key_F3,
+        [this] { engine_.commands().ReplayForward(); });
+    Add(menu, replay_[ReplayItem::Back], QStringLiteral("&Back"), Qt::SHIFT | Qt::Key_F4,
+        [this] { engine_.commands().ReplayBack(); });
     menu->addSeparator();
-    Add(menu, replay_, 4, QStringLiteral("Replay &All"), {}, [this] { engine_.ReplayAll(); });
+    Add(menu, replay_[ReplayItem::All], QStringLiteral("Replay &All"), {},
+        [this] { engine_.commands().ReplayAll(); });
     menu->addSeparator();
-    Add(menu, replay_, 6, QStringLiteral("Sto&p"), {}, [this] { engine_.StopReplay(); });
+    Add(menu, replay_[ReplayItem::Stop], QStringLiteral("Sto&p"), {},
+        [this] { engine_.commands().StopReplay(); });
 }
 
 void MainMenu::BuildFavorites() {
     QMenu* menu = bar_.addMenu(QStringLiteral("Favorites"));
-    Add(menu, fav_, 1, QStringLiteral("&Add to Favorites"), Qt::CTRL | Qt::Key_A,
-        [this] { engine_.AddFavorite(); });
-    Add(menu, fav_, 2, QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
+    Add(menu, fav_[FavItem::Add], QStringLiteral("&Add to Favorites"), Qt::CTRL | Qt::Key_A,
+        [this] { engine_.commands().AddFavorite(); });
+    Add(menu, fav_[FavItem::Organize], QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
         [this] { shell_.ShowOrganizeFavorites(); });
     menu->addSeparator();
-    AddStart(menu, fav_, 4, QStringLiteral("&Play from Favorites"), Qt::CTRL | Qt::Key_P,
-             [this] { shell_.ShowPlayFavorites(); });
+    AddStart(menu, fav_[FavItem::Play], QStringLiteral("&Play from Favorites"),
+             Qt::CTRL | Qt::Key_P, [this] { shell_.ShowPlayFavorites(); });
 }
 
 void MainMenu::BuildStatistics() {
     QMenu* menu = bar_.addMenu(QStringLiteral("Statistics"));
-    Add(menu, stat_, 1, QStringLiteral("&Game Statistics"), Qt::Key_F4,
+    Add(menu, stat_[StatItem::Game], QStringLiteral("&Game Statistics"), Qt::Key_F4,
         [this] { shell_.ShowGameStat(); });
-    Add(menu, stat_, 2, QStringLiteral("&Session Statistics"), {},
+    Add(menu, stat_[StatItem::Session], QStringLiteral("&Session Statistics"), {},
         [this] { shell_.ShowSesStat(); });
     menu->addSeparator();
-    Add(menu, stat_, 4, QStringLiteral("&High Scores"), Qt::Key_F9,
+    Add(menu, stat_[StatItem::HighScore], QStringLiteral("&High Scores"), Qt::Key_F9,
         [this] { shell_.ShowHighScore(); });
     menu->addSeparator();
-    Add(menu, stat_, 6, QStringLiteral("&Log Statistics"), {}, [this] { shell_.ShowLogStat(); });
+    Add(menu, stat_[StatItem::Log], QStringLiteral("&Log Statistics"), {},
+        [this] { shell_.ShowLogStat(); });
 }
 
 void MainMenu::BuildTools() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Tools"));
-    Add(menu, tools_, 1, QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U,
+    Add(menu, tools_[ToolsItem::Customize], QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U,
         [this] { shell_.ShowCustomize(); });
     menu->addSeparator();
-    Add(menu, tools_, 3, QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L,
+    Add(menu, tools_[ToolsItem::Players], QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L,
         [this] { shell_.ShowPlayers(); });
     menu->addSeparator();
-    Add(menu, tools_, 5, QStringLiteral("&History"), Qt::CTRL | Qt::Key_H,
+    Add(menu, tools_[ToolsItem::History], QStringLiteral("&History"), Qt::CTRL | Qt::Key_H,
         [this] { shell_.ShowHistory(); });
 }
 
 void MainMenu::BuildHelp() {
     QMenu* menu = bar_.addMenu(QStringLiteral("&Help"));
-    Add(menu, help_, 1, QStringLiteral("Rules"), Qt::Key_F1, [this] { shell_.ShowHelp(); });
-    Add(menu, help_, 2, QStringLiteral("Contents"), {}, [this] { shell_.ShowContents(); });
+    Add(menu, help_[HelpItem::Rules], QStringLiteral("Rules"), Qt::Key_F1,
+        [this] { shell_.ShowHelp(); });
+    Add(menu, help_[HelpItem::Contents], QStringLiteral("Contents"), {},
+        [this] { shell_.ShowContents(); });
     menu->addSeparator();
-    Add(menu, help_, 4, QStringLiteral("About %1...").arg(ToQt(kProductName)), {},
+    Add(menu, help_[HelpItem::About], QStringLiteral("About %1...").arg(ToQt(kProductName)), {},
         [this] { shell_.ShowAbout(); });
 }
 
@@ -162,27 +169,27 @@ void MainMenu::ShowCounters(const CounterCaptions& captions) {
 }
 
 void MainMenu::UpdateMenus() {
-    const MenuMarks marks = engine_.UpdateMenus();
-    file_[4]->setEnabled(marks.mFile4);
-    file_[5]->setEnabled(marks.mFile5);
-    fav_[1]->setEnabled(marks.mFav1);
-    tools_[5]->setEnabled(marks.mTools5);
-    game_[1]->setEnabled(marks.mGame1);
-    game_[2]->setEnabled(marks.mGame2);
-    game_[4]->setEnabled(marks.mGame4);
-    game_[4]->setChecked(marks.mGame4Checked);
-    game_[6]->setEnabled(marks.mGame6);
-    game_[7]->setEnabled(marks.mGame7);
-    game_[9]->setChecked(marks.mGame9Checked);
-    replay_[1]->setEnabled(marks.mReplay1);
-    replay_[2]->setEnabled(marks.mReplay2);
-    replay_[4]->setEnabled(marks.mReplay4);
-    replay_[6]->setEnabled(marks.mReplay6);
+    const MenuMarks marks = engine_.commands().UpdateMenus();
+    file_[FileItem::Restart]->setEnabled(marks.Restart);
+    file_[FileItem::Close]->setEnabled(marks.Close);
+    fav_[FavItem::Add]->setEnabled(marks.AddFavorite);
+    tools_[ToolsItem::History]->setEnabled(marks.History);
+    game_[GameItem::Undo]->setEnabled(marks.Undo);
+    game_[GameItem::Redo]->setEnabled(marks.Redo);
+    game_[GameItem::Autoplay]->setEnabled(marks.Autoplay);
+    game_[GameItem::Autoplay]->setChecked(marks.AutoplayChecked);
+    game_[GameItem::UndoAll]->setEnabled(marks.UndoAll);
+    game_[GameItem::RedoAll]->setEnabled(marks.RedoAll);
+    game_[GameItem::Toolbar]->setChecked(marks.ToolbarChecked);
+    replay_[ReplayItem::Forward]->setEnabled(marks.Forward);
+    replay_[ReplayItem::Back]->setEnabled(marks.Back);
+    replay_[ReplayItem::All]->setEnabled(marks.ReplayAll);
+    replay_[ReplayItem::Stop]->setEnabled(marks.Stop);
     UpdateRecent();
 }
 
 void MainMenu::UpdateRecent() {
-    const auto captions = engine_.UpdateRecent();
+    const auto captions = engine_.commands().UpdateRecent();
     for (int i = 1; i <= kMaxRecent; ++i) {
         const QString caption = ToQt(captions[static_cast<std::size_t>(i - 1)]);
         mRecent(i)->setText(caption);

@@ -13,12 +13,6 @@ namespace varnello {
 class Shell {
 public:
     virtual ~Shell() = default;
-    // These begin a game. Nothing else does.
-    virtual void NewGame() = 0;
-    virtual void RestartGame() = 0;
-    /// `index` from 1, the newest.
-    virtual void RecentGame(int index) = 0;
-
     /// Shows the rest of what is in motion at once, before a command acts on the table.
     virtual void Settle() = 0;
     virtual void ShowSelect() = 0;
@@ -41,8 +35,18 @@ public:
     virtual void Refresh() = 0;
 };
 
-/// The menu bar of the main window, with the counters at its right end. Its items are numbered in
-/// each menu from 1, separators included.
+/// The actions of one menu, by their enumeration.
+template <typename Item>
+class MenuItems {
+public:
+    QAction*& operator[](Item item) { return actions_.at(static_cast<std::size_t>(item)); }
+    QAction* operator[](Item item) const { return actions_.at(static_cast<std::size_t>(item)); }
+
+private:
+    std::array<QAction*, 12> actions_{};
+};
+
+/// The menu bar of the main window, with the counters at its right end.
 class MainMenu {
 public:
     MainMenu(QMenuBar& bar, Engine& engine, Shell& shell);
@@ -51,13 +55,14 @@ public:
     void UpdateMenus();
     void ShowCounters(const CounterCaptions& captions);
 
-    QAction* mFile(int index) const { return file_.at(static_cast<std::size_t>(index)); }
-    QAction* mGame(int index) const { return game_.at(static_cast<std::size_t>(index)); }
-    QAction* mReplay(int index) const { return replay_.at(static_cast<std::size_t>(index)); }
-    QAction* mFav(int index) const { return fav_.at(static_cast<std::size_t>(index)); }
-    QAction* mStat(int index) const { return stat_.at(static_cast<std::size_t>(index)); }
-    QAction* mTools(int index) const { return tools_.at(static_cast<std::size_t>(index)); }
-    QAction* mHelp(int index) const { return help_.at(static_cast<std::size_t>(index)); }
+    QAction* mFile(FileItem item) const { return file_[item]; }
+    QAction* mGame(GameItem item) const { return game_[item]; }
+    QAction* mReplay(ReplayItem item) const { return replay_[item]; }
+    QAction* mFav(FavItem item) const { return fav_[item]; }
+    QAction* mStat(StatItem item) const { return stat_[item]; }
+    QAction* mTools(ToolsItem item) const { return tools_[item]; }
+    QAction* mHelp(HelpItem item) const { return help_[item]; }
+    /// `index` from 1, the newest.
     QAction* mRecent(int index) const { return recent_.at(static_cast<std::size_t>(index)); }
     const QLabel* Counters() const { return counters_; }
 
@@ -72,25 +77,25 @@ private:
     void BuildCounters();
     void UpdateRecent();
 
-    template <std::size_t N, typename Action>
-    void Add(QMenu* menu, std::array<QAction*, N>& items, int index, const QString& caption,
-             const QKeySequence& key, Action&& action);
+    template <typename Action>
+    void Add(QMenu* menu, QAction*& item, const QString& caption, const QKeySequence& key,
+             Action&& action);
     /// The same for an item that begins a game or chooses one: a deal in motion isn't finished for
     /// it, but gives way to the next one.
-    template <std::size_t N, typename Action>
-    QAction* AddStart(QMenu* menu, std::array<QAction*, N>& items, int index,
-                      const QString& caption, const QKeySequence& key, Action&& action);
+    template <typename Action>
+    void AddStart(QMenu* menu, QAction*& item, const QString& caption, const QKeySequence& key,
+                  Action&& action);
 
     QMenuBar& bar_;
     Engine& engine_;
     Shell& shell_;
-    std::array<QAction*, 12> file_{};
-    std::array<QAction*, 10> game_{};
-    std::array<QAction*, 7> replay_{};
-    std::array<QAction*, 5> fav_{};
-    std::array<QAction*, 7> stat_{};
-    std::array<QAction*, 6> tools_{};
-    std::array<QAction*, 5> help_{};
+    MenuItems<FileItem> file_;
+    MenuItems<GameItem> game_;
+    MenuItems<ReplayItem> replay_;
+    MenuItems<FavItem> fav_;
+    MenuItems<StatItem> stat_;
+    MenuItems<ToolsItem> tools_;
+    MenuItems<HelpItem> help_;
     std::array<QAction*, kMaxRecent + 1> recent_{};
     QLabel* counters_ = nullptr;
 };

@@ -35,12 +35,12 @@ constexpr int kTryAgain = 50;
 MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     engine_ = std::make_unique<Engine>(Desktop{system.settings, system.clock, motion_, motion_,
                                                *this, system.dataFolder, dates_, disk_});
-    motion_.SetCardSpeed([this] { return engine_->data.Get(keys::CardSpeed); });
+    engine_->life().OnStart([this] { BeforeStart(); });
+    motion_.SetCardSpeed([this] { return engine_->data().Get(keys::CardSpeed); });
     motion_.SetFrameRate(screen()->refreshRate());
     connect(&motion_, &Motion::Shown, this, &MainWindow::OnShown);
 
     auto* client = new QWidget;
-    client->installEventFilter(this);
     setCentralWidget(client);
     menu_ = std::make_unique<MainMenu>(*menuBar(), *engine_, static_cast<Shell&>(*this));
     toolbar_ = new Toolbar(*menu_, client);
@@ -58,7 +58,6 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
 
 MainWindow::~MainWindow() {
     QApplication::instance()->removeEventFilter(this);
-    centralWidget()->removeEventFilter(this);
     delete table_;  // before what it shows
 }
 
@@ -67,9 +66,9 @@ void MainWindow::StartTimers() {
     tmrBackward_.setInterval(kReplayStep);
     connect(&tmrMain_, &QTimer::timeout, this, &MainWindow::OnMainTimer);
     connect(&tmrTime_, &QTimer::timeout, this,
-            [this] { menu_->ShowCounters(engine_->TimeTick()); });
-    connect(&tmrForward_, &QTimer::timeout, this, [this] { ReplayTick(&Engine::ForwardTick); });
-    connect(&tmrBackward_, &QTimer::timeout, this, [this] { ReplayTick(&Engine::BackwardTick); });
+            [this] { menu_->ShowCounters(engine_->counters().TimeTick()); });
+    connect(&tmrForward_, &QTimer::timeout, this, [this] { ReplayTick(&Replay::ForwardTick); });
+    connect(&tmrBackward_, &QTimer::timeout, this, [this] { ReplayTick(&Replay::BackwardTick); });
     breath_.setSingleShot(true);
     connect(&breath_, &QTimer::timeout, this, &MainWindow::ShowFinish);
     tmrMain_.start(kMenuPoll);
@@ -79,27 +78,27 @@ void MainWindow::StartTimers() {
 void MainWindow::OnMainTimer() {
     // A name may hold what the toolkit takes for the mark of a changed document.
     setWindowTitle(
-        ToQt(engine_->Caption()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+        ToQt(engine_->life().Caption()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     Refresh();
 }
 
-void MainWindow::ReplayTick(void (Engine::*tick)()) {
+void MainWindow::ReplayTick(void (Replay::*tick)()) {
     if (motion_.Showing()) {
         waitingTick_ = tick;
         return;
     }
-    (engine_.get()->*tick)();
+    (engine_->replay().*tick)();
     Refresh();
 }
 
 void MainWindow::OnShown() {
-    engine_->Shown();
+    engine_->life().Shown();
     Refresh();
     if (const auto tick = std::exchange(waitingTick_, nullptr)) ReplayTick(tick);
 }
 
 void MainWindow::AwaitFinish() {
-    if (engine_->phase() == Phase::Won && !motion_.Showing() && !breath_.isActive()) {
+    if (engine_->life().phase() == Phase::Won && !motion_.Showing() && !breath_.isActive()) {
         breath_.start(breathTime_);
     }
 }
@@ -110,7 +109,7 @@ void MainWindow::Settle() {
 }
 
 bool MainWindow::FilterInput(QObject* watched, QEvent* event) {
-    const bool dealing = engine_->phase() == Phase::Dealing;
+    const bool dealing = engine_->life().phase() == Phase::Dealing;
     switch (event->type()) {
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress: {
@@ -147,14 +146,14 @@ void MainWindow::OnReplayTimers() {
             timer.stop();
         }
     };
-    follow(tmrForward_, engine_->ForwardOn());
-    follow(tmrBackward_, engine_->BackwardOn());
+    follow(tmrForward_, engine_->replay().ForwardOn());
+    follow(tmrBackward_, engine_->replay().BackwardOn());
 }
 
 void MainWindow::Refresh() {
     menu_->UpdateMenus();
     toolbar_->UpdateToolbar();
-    Q_ASSERT(motion_.Showing() || LooksSame(motion_.Scene(), engine_->table));
+    Q_ASSERT(motion_.Showing() || LooksSame(motion_.Scene(), engine_->table()));
     OnReplayTimers();
     AwaitFinish();
 }
@@ -162,7 +161,7 @@ void MainWindow::Refresh() {
 void MainWindow::LayoutMain() {
     if (isMinimized()) return;
     const QRect client = centralWidget()->rect();
-    const int top = engine_->data.Get(keys::ShowToolbar) == 0 ? 0 : kToolbarHeight;
+    const int top = engine_->data().Get(keys::ShowToolbar) == 0 ? 0 : kToolbarHeight;
     toolbar_->setGeometry(0, 0, client.width(), kToolbarHeight);
     table_->setGeometry(0, top, client.width(), std::max(client.height() - top, 0));
     table_->raise();
@@ -172,7 +171,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centralWidget() && event->type() == QEvent::Resize) LayoutMain();
     // A dialog or a menu opens; from now on the table gets no release.
     const auto* widget = event->type() == QEvent::Show ? qobject_cast<QWidget*>(watched) : nullptr;
-    if (widget && widget->isWindow() && widget->windowType() != Qt::ToolTip && table_) {
+    if (widget && widget->isWindow() && widget->windowType() != Qt::ToolTip) {
         table_->CancelGesture();
     }
     if ((motion_.Showing() || breath_.isActive()) && FilterInput(watched, event)) return true;
@@ -200,27 +199,11 @@ void MainWindow::BeforeStart() {
     if (select_) select_->close();
 }
 
-void MainWindow::NewGame() {
-    BeforeStart();
-    engine_->NewGame();
-}
-
-void MainWindow::RestartGame() {
-    if (!engine_->UpdateMenus().mFile4) return;
-    BeforeStart();
-    engine_->RestartGame();
-}
-
-void MainWindow::RecentGame(int index) {
-    const std::string game = engine_->data.GetRecent(Narrow16(index));
-    if (engine_->data.GetGameID(game) != 0) Play({.Game = game});
-}
-
 void MainWindow::Play(const GameChoice& choice) {
-    BeforeStart();
-    if (choice.Player && engine_->data.FindPlayer(*choice.Player) != 0)
-        engine_->data.CurPlayer(*choice.Player);
-    engine_->StartGame(choice.Game, choice.Number ? *choice.Number : engine_->RandomGNo());
+    if (choice.Player && engine_->data().FindPlayer(*choice.Player) != 0)
+        engine_->data().CurPlayer(*choice.Player);
+    engine_->life().StartGame(choice.Game,
+                              choice.Number ? *choice.Number : engine_->choosing().RandomGNo());
     Refresh();
 }
 
@@ -237,53 +220,42 @@ void MainWindow::OpenSelect(Qt::WindowModality modality) {
     select_->activateWindow();
 }
 
-void MainWindow::ShowChoose() {
+template <typename Dialog>
+void MainWindow::RunReport(QWidget* parent) {
     BookWin();
-    NumberDialog dialog(*engine_, this);
+    Dialog(*engine_, parent).exec();
+}
+
+template <typename Dialog>
+void MainWindow::RunChooser() {
+    BookWin();
+    Dialog dialog(*engine_, this);
     dialog.exec();
     if (dialog.Choice()) Play(*dialog.Choice());
 }
+
+void MainWindow::ShowChoose() { RunChooser<NumberDialog>(); }
+
+void MainWindow::ShowPlayFavorites() { RunChooser<PlayFavoriteDialog>(); }
 
 void MainWindow::ShowOrganizeFavorites() { OrganizeFavoritesDialog(*engine_, this).exec(); }
 
-void MainWindow::ShowPlayFavorites() {
-    BookWin();
-    PlayFavoriteDialog dialog(*engine_, this);
-    dialog.exec();
-    if (dialog.Choice()) Play(*dialog.Choice());
-}
-
-void MainWindow::ShowPlayers() {
-    BookWin();
-    PlayersDialog(*engine_, this).exec();
-}
+void MainWindow::ShowPlayers() { RunReport<PlayersDialog>(this); }
 
 void MainWindow::ShowHistory() {
-    if (engine_->data.GameRunning) HistoryDialog(engine_->trans(), this).exec();
+    if (engine_->data().GameRunning) HistoryDialog(engine_->trans(), this).exec();
 }
 
-void MainWindow::ShowGameStat() {
-    BookWin();
-    GameStatDialog(*engine_, Front()).exec();
-}
+void MainWindow::ShowGameStat() { RunReport<GameStatDialog>(Front()); }
 
-void MainWindow::ShowSesStat() {
-    BookWin();
-    SessionDialog(*engine_, this).exec();
-}
+void MainWindow::ShowSesStat() { RunReport<SessionDialog>(this); }
 
-void MainWindow::ShowHighScore() {
-    BookWin();
-    HighScoreDialog(*engine_, Front()).exec();
-}
+void MainWindow::ShowHighScore() { RunReport<HighScoreDialog>(Front()); }
 
-void MainWindow::ShowLogStat() {
-    BookWin();
-    LogDialog(*engine_, this).exec();
-}
+void MainWindow::ShowLogStat() { RunReport<LogDialog>(this); }
 
 void MainWindow::ShowHelp() {
-    ShowRules(engine_->data.GameRunning ? engine_->data.CurGName() : std::string());
+    ShowRules(engine_->data().GameRunning ? engine_->data().CurGName() : std::string());
 }
 
 void MainWindow::ShowRules(const std::string& game) {
@@ -291,7 +263,7 @@ void MainWindow::ShowRules(const std::string& game) {
         help_ = new HelpWindow(nullptr);
         connect(this, &QObject::destroyed, help_, &QObject::deleteLater);
     }
-    help_->ShowPage(PageNameOf(engine_->data.GetGameID(game)));
+    help_->ShowPage(PageNameOf(engine_->data().GetGameID(game)));
 }
 
 void MainWindow::ShowAbout() { AboutDialog(this).exec(); }
@@ -329,9 +301,9 @@ void MainWindow::ShowCustomize() {
 }
 
 void MainWindow::BookWin() {
-    if (engine_->phase() != Phase::Won) return;
+    if (engine_->life().phase() != Phase::Won) return;
     motion_.Finish();
-    finish_ = engine_->LoadFinish();
+    finish_ = engine_->life().LoadFinish();
     breath_.start(0);
 }
 
@@ -352,10 +324,10 @@ void MainWindow::ShowFinish() {
         choice = dialog.Choice();
     }
     switch (choice) {
-        case FinishChoice::NewGame: return Play({.Game = engine_->data.LastGName()});
+        case FinishChoice::NewGame: engine_->commands().NewGame(); return Refresh();
         case FinishChoice::SelectGame: return OpenSelect(Qt::WindowModal);
         case FinishChoice::RestartGame:
-            return Play({.Game = engine_->data.CurGName(), .Number = engine_->data.CurGNo});
+            return Play({.Game = engine_->data().CurGName(), .Number = engine_->data().CurGNo});
         case FinishChoice::Close: break;
     }
 }

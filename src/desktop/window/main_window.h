@@ -74,13 +74,16 @@ private:
         std::string text;
     };
 
-    void NewGame() override;
-    void RestartGame() override;
-    void RecentGame(int index) override;
     /// Starts what a dialog has chosen.
     void Play(const GameChoice& choice);
-    /// A game begins: what belongs to the last one goes.
+    /// A game begins, whoever asked for it: what belongs to the last one goes.
     void BeforeStart();
+    /// Shows a window of results, among them those of a game just won.
+    template <typename Dialog>
+    void RunReport(QWidget* parent);
+    /// Shows a window that chooses a deal, and plays what was chosen.
+    template <typename Dialog>
+    void RunChooser();
     void ShowChoose() override;
     void ShowOrganizeFavorites() override;
     void ShowPlayFavorites() override;
@@ -116,7 +119,7 @@ private:
     void OnReplayTimers();
     void OnShown();
     /// One step of a replay, once the last one has been shown.
-    void ReplayTick(void (Engine::*tick)());
+    void ReplayTick(void (Replay::*tick)());
     void StartTimers();
 
     LocaleDates dates_;
@@ -134,7 +137,7 @@ private:
     QTimer tmrBackward_;
     QTimer breath_;
     int breathTime_ = 500;  ///< milliseconds
-    void (Engine::*waitingTick_)() = nullptr;
+    void (Replay::*waitingTick_)() = nullptr;
     std::optional<FinishFigures> finish_;  ///< booked, and its dialog still to be opened
     std::deque<Message> messages_;
     bool telling_ = false;

@@ -63,7 +63,7 @@ QPointF TableView::ToTwips(const QPointF& point) const {
 }
 
 QPoint TableView::CardCentre(PicID id) const {
-    const KesCard& card = engine_.table.Card(id);
+    const KesCard& card = engine_.table().Card(id);
     const QPointF twips(card.Left + kCardWidth / 2.0, card.Top + kCardHeight / 2.0);
     return (twips / kTwipsPerPixel + QPointF(TableCorner()) / Ratio()).toPoint();
 }
@@ -112,7 +112,7 @@ void TableView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const CardPictures& pictures = Pictures();
     if (background_.isNull()) {
-        background_ = BackgroundPicture(Ratio(), StoredBackground(engine_.data));
+        background_ = BackgroundPicture(Ratio(), StoredBackground(engine_.data()));
     }
 
     // From here on in device pixels with the table's corner at the origin, so that every edge stays
@@ -128,11 +128,11 @@ void TableView::paintEvent(QPaintEvent* event) {
     for (const QRect& rect : beside) painter.fillRect(rect, palette().color(QPalette::Mid));
     const QRect part = dirty & background_.rect();
     painter.drawImage(part.topLeft(), background_, part);
-    PaintTable(painter, motion_.Scene(), pictures, engine_.data.Get(keys::DeckIndex), dirty);
+    PaintTable(painter, motion_.Scene(), pictures, engine_.data().Get(keys::DeckIndex), dirty);
 }
 
 bool TableView::OnStockSlot(const QPointF& twips) const {
-    const KesEmpty& slot = engine_.table.PicStock[0];
+    const KesEmpty& slot = engine_.table().PicStock[0];
     return slot.Visible && QRectF(slot.Left, slot.Top, kCardWidth, kCardHeight).contains(twips);
 }
 
@@ -141,12 +141,12 @@ void TableView::mousePressEvent(QMouseEvent* event) {
     pressedButton_ = event->button();
     setMouseTracking(true);  // a release that was lost shows as a move without a button
     const QPointF at = ToTwips(event->position());
-    pressed_ = engine_.table.CardAt(at.x(), at.y());
+    pressed_ = engine_.table().CardAt(at.x(), at.y());
     if (pressed_ == kNoCard) {
         stockPressed_ = OnStockSlot(at);
         return;
     }
-    const KesCard& card = engine_.table.Card(pressed_);
+    const KesCard& card = engine_.table().Card(pressed_);
     engine_.gestures().MouseDown(pressed_, at.x() - card.Left, at.y() - card.Top);
 }
 
@@ -155,7 +155,7 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
     if (pressed_ == kNoCard) return;
     if (engine_.gestures().Dragging()) motion_.Finish();
     const QPointF at = ToTwips(event->position());
-    const KesCard& card = engine_.table.Card(pressed_);
+    const KesCard& card = engine_.table().Card(pressed_);
     engine_.gestures().MouseMove(pressed_, at.x() - card.Left, at.y() - card.Top);
 }
 

@@ -42,22 +42,22 @@ Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent) {
     };
     const auto separator = [&] { strip->addWidget(Separator(this)); };
 
-    button(1, "new", "New Game", menu.mFile(1));
-    button(2, "select", "Select Game", menu.mFile(2));
-    button(3, "restart", "Restart Game", menu.mFile(4));
+    button(1, "new", "New Game", menu.mFile(FileItem::New));
+    button(2, "select", "Select Game", menu.mFile(FileItem::Select));
+    button(3, "restart", "Restart Game", menu.mFile(FileItem::Restart));
     separator();
-    button(5, "autoplay", "Autoplay", menu.mGame(4));
+    button(5, "autoplay", "Autoplay", menu.mGame(GameItem::Autoplay));
     separator();
-    button(7, "undo", "Undo", menu.mGame(1));
-    button(8, "redo", "Redo", menu.mGame(2));
+    button(7, "undo", "Undo", menu.mGame(GameItem::Undo));
+    button(8, "redo", "Redo", menu.mGame(GameItem::Redo));
     separator();
-    button(10, "back", "Replay Back", menu.mReplay(2));
-    button(11, "stop", "Replay Stop", menu.mReplay(6));
-    button(12, "forward", "Replay Forward", menu.mReplay(1));
+    button(10, "back", "Replay Back", menu.mReplay(ReplayItem::Back));
+    button(11, "stop", "Replay Stop", menu.mReplay(ReplayItem::Stop));
+    button(12, "forward", "Replay Forward", menu.mReplay(ReplayItem::Forward));
     separator();
-    button(14, "statistics", "Statistics", menu.mStat(1));
+    button(14, "statistics", "Statistics", menu.mStat(StatItem::Game));
     separator();
-    button(16, "help", "Help", menu.mHelp(1));
+    button(16, "help", "Help", menu.mHelp(HelpItem::Rules));
     strip->addStretch();
     Button(5)->setCheckable(true);
 }

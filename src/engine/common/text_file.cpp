@@ -44,6 +44,11 @@ std::string Continuation(const std::filesystem::path& file, std::string_view lin
 
 }  // namespace
 
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 bool AppendLine(const std::filesystem::path& file, std::string_view line) {
     if (IsUnfit(file)) return false;
     const std::string text = Continuation(file, line);

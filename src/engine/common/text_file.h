@@ -8,6 +8,9 @@
 
 namespace varnello {
 
+/// A path as a text to show.
+std::string PathText(const std::filesystem::path& path);
+
 /// Appends `line` and CR LF in one write, so that two programs that append at once don't mix their
 /// lines. A file whose last line was left unfinished, or whose end can't be looked at, gets a line
 /// end first; the unfinished line may be this very one. False when the file can't be written; what

@@ -1,9 +1,11 @@
+#include "engine/flow/choosing.h"
+
 #include <algorithm>
+#include <cmath>
 
 #include "engine/common/number_text.h"
-#include "engine/flow/engine.h"
+#include "engine/common/text_file.h"
 
-// What the dialogs that choose a deal decide.
 namespace varnello {
 namespace {
 
@@ -19,17 +21,33 @@ std::string Grouped(double number) {
 
 }  // namespace
 
-double Engine::MaxGNo() const { return std::max(NumberLimit(data.Get(keys::RangeIndex)), 1.0) - 1; }
+double NumberLimit(std::int16_t rangeIndex) {
+    if (rangeIndex < 1) return 0;
+    double limit = 1;
+    for (int i = 0; i < std::min<int>(rangeIndex, 15); ++i) limit *= 10;
+    return limit;
+}
 
 std::string HighestNumberText(std::int16_t rangeIndex) {
     return Grouped(std::max(NumberLimit(rangeIndex), 1.0) - 1);
 }
 
-std::string Engine::RangeText() const {
-    return "0 and " + HighestNumberText(data.Get(keys::RangeIndex));
+GameNumber Choosing::RandomGNo() {
+    const double limit = NumberLimit(data_.Get(keys::RangeIndex));
+    numbers_.rtcRandomize(clock_.Timer());
+    const double drawn = limit * static_cast<double>(numbers_.rtcRandomNext());
+    return GameNumber::Number(std::max(std::floor(drawn), 1.0));
 }
 
-bool Engine::IsChoosable(std::string_view text) const {
+double Choosing::MaxGNo() const {
+    return std::max(NumberLimit(data_.Get(keys::RangeIndex)), 1.0) - 1;
+}
+
+std::string Choosing::RangeText() const {
+    return "0 and " + HighestNumberText(data_.Get(keys::RangeIndex));
+}
+
+bool Choosing::IsChoosable(std::string_view text) const {
     const auto value = ParseDecimal(text);
     if (!value) return false;
     // The test runs in 32 bits with strict bounds, so the longest numbers are rounded before it.
@@ -37,28 +55,33 @@ bool Engine::IsChoosable(std::string_view text) const {
     return tested > 0 && static_cast<double>(tested) < MaxGNo();
 }
 
-bool Engine::AcceptNumber(const std::string& text) {
+bool Choosing::AcceptNumber(const std::string& text) {
     if (IsChoosable(text)) return true;
-    desktop_.messages.Inform("Please enter a number between " + RangeText());
+    messages_.Inform("Please enter a number between " + RangeText());
     return false;
 }
 
-void Engine::ClearRecentGames() {
-    data.ClearRecent();
-    desktop_.messages.Inform("Recent Games List has been Cleared.");
-}
-
-void Engine::AddFavorite() {
-    if (!UpdateMenus().mFav1) return;
-    if (!favorites.AddFav(data.CurGName(), data.CurGNo)) {
-        const auto file = favorites.File().u8string();
-        desktop_.messages.Inform("The favorite could not be written to the file\n" +
-                                 std::string(file.begin(), file.end()));
+void Choosing::AddFavorite() {
+    if (!favorites_.AddFav(data_.CurGName(), data_.CurGNo)) {
+        messages_.Inform("The favorite could not be written to the file\n" +
+                         PathText(favorites_.File()));
         return;
     }
-    desktop_.messages.Inform("Game <" + data.CurGNo.Shown() +
-                             "> Successfully Added to Favorites Under <" + data.CurGName() +
-                             "> Folder");
+    messages_.Inform("Game <" + data_.CurGNo.Shown() + "> Successfully Added to Favorites Under <" +
+                     data_.CurGName() + "> Folder");
+}
+
+void Choosing::ClearFavorites() {
+    if (!favorites_.ClearFav()) {
+        messages_.Refuse("The favorites stay, because this file could not be removed:\n" +
+                         PathText(favorites_.File()));
+    }
+    favorites_.OpenFav();
+}
+
+void Choosing::ClearRecentGames() {
+    data_.ClearRecent();
+    messages_.Inform("Recent Games List has been Cleared.");
 }
 
 }  // namespace varnello

@@ -1,64 +1,52 @@
+#include "engine/flow/results.h"
+
 #include <fstream>
 #include <system_error>
 
-#include "engine/flow/engine.h"
+#include "engine/common/text_file.h"
 #include "engine/reports/export.h"
 
-// What is done with all results together.
 namespace varnello {
 
-void Engine::ClearStat() {
+void Results::ClearStat() {
     std::string stay;
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        const std::filesystem::path file = ScorePath(data, data.GetPlayer(slot));
+    for (std::int16_t slot = 1; slot <= data_.TotalPlayers(); ++slot) {
+        const std::filesystem::path file = ScorePath(data_, data_.GetPlayer(slot));
         std::error_code error;
         std::filesystem::remove(file, error);
-        if (!error) continue;
-        const auto name = file.u8string();
-        stay.append("\n").append(name.begin(), name.end());
+        if (error) stay += '\n' + PathText(file);
     }
     if (!stay.empty()) {
-        desktop_.messages.Refuse("These files could not be removed, and their results stay:" +
-                                 stay);
+        messages_.Refuse("These files could not be removed, and their results stay:" + stay);
         return;
     }
-    desktop_.messages.Inform("Statistics, High Score and Log have been Cleared.");
+    messages_.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
-void Engine::OpenScores() {
-    score.OpenAllScore();
+void Results::OpenScores() {
+    score_.OpenAllScore();
     TellUnread();
 }
 
-void Engine::TellUnread() {
+void Results::TellUnread() {
     std::string files;
-    for (const std::filesystem::path& file : score.Unread()) {
-        if (!toldUnread_.insert(file).second) continue;
-        const auto name = file.u8string();
-        files.append("\n").append(name.begin(), name.end());
+    for (const std::filesystem::path& file : score_.Unread()) {
+        if (toldUnread_.insert(file).second) files += '\n' + PathText(file);
     }
     if (files.empty()) return;
-    desktop_.messages.Warn("These files of results can't be read, and their games are missing:" +
-                           files);
+    messages_.Warn("These files of results can't be read, and their games are missing:" + files);
 }
 
-void Engine::ClearFavorites() {
-    if (!favorites.ClearFav()) {
-        RefuseFile("The favorites stay, because this file could not be removed:", favorites.File());
-    }
-    favorites.OpenFav();
-}
-
-void Engine::ExportStat(const ChosenFile& file) {
-    score.OpenAllScore();
+void Results::ExportStat(const ChosenFile& file) {
+    score_.OpenAllScore();
     std::ofstream out(file.Path, std::ios::binary);
-    WriteStat(out, score, data, Now(), dates());
+    WriteStat(out, score_, data_, clock_.Now(), dates_);
     out.close();
     toldUnread_.clear();  // a report that others read is worth a word of its own
     TellUnread();
-    score.CloseScore();
+    score_.CloseScore();
     if (!out) return;
-    desktop_.messages.Inform("Statistics Successfully Exported to " + file.Name);
+    messages_.Inform("Statistics Successfully Exported to " + file.Name);
 }
 
 }  // namespace varnello

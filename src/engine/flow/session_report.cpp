@@ -13,9 +13,9 @@ constexpr RecordField kRowFields[] = {Game, GameNo, Player, Time, Moves, Status,
 constexpr RecordField kDetails[] = {Number, Time, Moves, Score};
 
 ReportRow RunningRow(const Engine& engine, RecordFields fields) {
-    const double number = engine.score.SesTop() + 1.0;
+    const double number = engine.score().SesTop() + 1.0;
     ReportRow row =
-        RowOf(engine.score.CurrentGame(Outcome::NotWon), number, fields, engine.dates());
+        RowOf(engine.score().CurrentGame(Outcome::NotWon), number, fields, engine.dates());
     const auto status = std::find(fields.begin(), fields.end(), Status);
     if (status != fields.end()) {
         row[static_cast<std::size_t>(status - fields.begin())].Text = "Running";
@@ -24,12 +24,12 @@ ReportRow RunningRow(const Engine& engine, RecordFields fields) {
 }
 
 std::vector<ReportRow> Rows(const Engine& engine, RecordFields fields) {
-    const cScore& score = engine.score;
+    const cScore& score = engine.score();
     std::vector<ReportRow> rows;
     for (std::int16_t i = 1; i <= score.SesTop(); ++i) {
         rows.push_back(RowOf(score.GetSes(i), i, fields, engine.dates()));
     }
-    if (engine.data.GameRunning) rows.push_back(RunningRow(engine, fields));
+    if (engine.data().GameRunning) rows.push_back(RunningRow(engine, fields));
     return rows;
 }
 
@@ -48,14 +48,14 @@ std::vector<Column> DetailColumns() {
 }
 
 std::string SessionElapsedLabel(const Engine& engine) {
-    const std::int64_t seconds = SecondsBetween(engine.data.SesStartTime, engine.Now());
+    const std::int64_t seconds = SecondsBetween(engine.data().SesStartTime, engine.Now());
     return "Time Elapsed : " + FormatTime(Saturate32(std::max<std::int64_t>(seconds, 0)));
 }
 
 std::vector<std::string> SessionLabels(const Engine& engine) {
-    const ScoreSummary summary = engine.score.SesSummary();
-    return {"Started : " + engine.dates().DateAndTime(engine.data.SesStartTime),
-            "Games Played : " + std::to_string(engine.score.SesTop()),
+    const ScoreSummary summary = engine.score().SesSummary();
+    return {"Started : " + engine.dates().DateAndTime(engine.data().SesStartTime),
+            "Games Played : " + std::to_string(engine.score().SesTop()),
             "Games Won : " + std::to_string(summary.Won),
             "Games Lost : " + std::to_string(summary.Lost),
             "Total Score : " + std::to_string(summary.Score),
@@ -64,7 +64,7 @@ std::vector<std::string> SessionLabels(const Engine& engine) {
 }
 
 GameLabels GameLabelsOf(const Engine& engine) {
-    const cData& data = engine.data;
+    const cData& data = engine.data();
     const bool none = data.CurGName().empty();  // before the first game
     return {.Started = "Game Started : " +
                        (none ? std::string() : engine.dates().DateAndTime(data.GameStartTime)),

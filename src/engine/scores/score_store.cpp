@@ -74,12 +74,13 @@ void cScore::WriteKept() {
 }
 
 void cScore::RenameKept(std::string_view oldName, std::string_view newName) {
-    if (newName.empty()) {
-        std::erase_if(kept_, [&](const KeptLine& kept) { return kept.player == oldName; });
-    }
     for (KeptLine& kept : kept_) {
         if (kept.player == oldName) kept.player = newName;
     }
+}
+
+void cScore::DropKept(std::string_view player) {
+    std::erase_if(kept_, [&](const KeptLine& kept) { return kept.player == player; });
 }
 
 void cScore::AddSesGame(Outcome outcome) {

@@ -31,8 +31,9 @@ public:
     bool AddScore(Outcome outcome);
     /// Tries what couldn't be written.
     void WriteKept();
-    /// A player's kept results go along with the name, or with an empty one for nobody.
+    /// A player's kept results go along with the name, or with the player.
     void RenameKept(std::string_view oldName, std::string_view newName);
+    void DropKept(std::string_view player);
     /// Adds the current game to the list of this run.
     void AddSesGame(Outcome outcome);
 
