@@ -1,10 +1,12 @@
 #include <QClipboard>
+#include <QLabel>
 #include <QMessageBox>
 #include <fstream>
 
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/choosers/players_dialog.h"
+#include "desktop/platform/text.h"
 #include "desktop/reports/history_dialog.h"
 #include "fixture.h"
 
@@ -54,6 +56,54 @@ private Q_SLOTS:
         QVERIFY(fixture.engine().data().GameRunning);
         QCOMPARE(fixture.engine().data().CurGNo.Shown(), "1e3");
         QCOMPARE(fixture.engine().data().CurGName(), "Avenue");
+    }
+
+    void TheSelectorFollowsThePlayers() {
+        const std::string odd = "<h1>a & b [*] %1 &x";
+        WindowFixture fixture;
+        Players& players = fixture.engine().players();
+        QVERIFY(players.EnterPlayer({}, "Bea"));
+        fixture.window.ShowSelect();
+        SelectDialog& select = *fixture.window.select();
+        select.players()->setCurrentText("Bea");
+        QVERIFY(players.EnterPlayer("Player1", odd));
+        QVERIFY(players.EnterPlayer("Bea", "Bo"));
+        QTRY_COMPARE(select.players()->itemText(1), "Bo");
+        QCOMPARE(select.players()->currentText(), ToQt(odd));
+        // Tab reaches every control, the rules after the way out.
+        QStringList reached;
+        for (int i = 0; i < 6; ++i) {
+            const auto* button = qobject_cast<QPushButton*>(select.focusWidget());
+            reached << (button ? button->text() : select.focusWidget()->accessibleName());
+            QTest::keyClick(&select, Qt::Key_Tab);
+        }
+        QCOMPARE(reached, QStringList({"Games", "Player", "Play", "Cancel", "Rules", "Games"}));
+        QVERIFY(players.EnterPlayer(odd, "Anna"));
+        select.play()->click();  // ahead of the next look at the list
+        QCOMPARE(fixture.engine().data().CurPlayer(), "Anna");
+        fixture.engine().life().LeaveGame();
+        QCOMPARE(ReadLines(fixture.Folder() + "/Anna.sre").size(), std::size_t{1});
+    }
+
+    void NamesAreShownAsTheyAre() {
+        const std::string odd = "<h1>a & b [*] %1 &x";
+        WindowFixture fixture;
+        QVERIFY(fixture.engine().players().EnterPlayer("Player1", odd));
+        fixture.Start("Freecell");
+        // In a caption the toolkit takes "[*]" for its own mark, and a doubled one as text.
+        QTRY_VERIFY(fixture.window.windowTitle().contains("[<h1>a & b [*][*] %1 &x]"));
+        int found = 0;
+        WhenOpen<QDialog>([&](QDialog& dialog) {
+            for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+                if (!label->text().contains(ToQt(odd))) continue;
+                ++found;
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+                QVERIFY(!label->buddy());
+            }
+            dialog.close();
+        });
+        fixture.window.menu().mStat(StatItem::Session)->trigger();
+        QCOMPARE(found, 1);
     }
 
     void FavoritesArePlayedAndCleared() {

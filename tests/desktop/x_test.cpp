@@ -168,8 +168,9 @@ private Q_SLOTS:
 
     void WinsWholeGames_data() {
         QTest::addColumn<QString>("line");
-        for (const QString& file : QDir(VARNELLO_WINS).entryList({"*.script"})) {
-            QTest::newRow(qPrintable(file.chopped(7))) << VARNELLO_WINS "/" + file;
+        // One with a stock, one with reserves, one of two packs; the others are played without X.
+        for (const char* game : {"cascade", "freecell", "zodiac"}) {
+            QTest::newRow(game) << QString(VARNELLO_WINS "/%1.script").arg(game);
         }
     }
 

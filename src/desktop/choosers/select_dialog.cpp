@@ -46,9 +46,10 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     inFrame->addWidget(preview_);
 
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(rules_, QDialogButtonBox::HelpRole);
+    // Tab goes from one to the next in this order; their places follow from what they are for.
     buttons->addButton(play_, QDialogButtonBox::AcceptRole);
     auto* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    buttons->addButton(rules_, QDialogButtonBox::HelpRole);
 
     auto* right = new QVBoxLayout;
     right->addWidget(name_);
@@ -71,8 +72,6 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     connect(&Timer1_, &QTimer::timeout, this, &SelectDialog::FollowPlayers);
     Timer1_.start(kPlayersPoll);
     ShowGame();
-    QWidget* const order[] = {tree_, players_, play_, cancel, rules_};
-    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
     play_->setDefault(true);
     tree_->setFocus();
 }

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -14,14 +15,31 @@ namespace varnello {
 namespace {
 
 constexpr int kLongestWait = 3000;  // milliseconds for another copy's change
+constexpr int kLeftoverAge = 3600;  // seconds
 
 QString KeyOf(std::string_view section, std::string_view key) {
     return ToQt(section) + '/' + ToQt(key);
 }
 
+/// Removes what writes have left behind that the system's end cut short: copies of the settings
+/// under a name with six random letters. Another program may be about to use a fresh one.
+void RemoveLeftovers(const QString& path) {
+    const QFileInfo settings(path);
+    const QDateTime old = QDateTime::currentDateTime().addSecs(-kLeftoverAge);
+    const QStringList pattern{settings.fileName() + QStringLiteral(".??????")};
+    for (const QFileInfo& file : settings.dir().entryInfoList(pattern, QDir::Files)) {
+        const QString letters = file.suffix();
+        if (letters == letters.toLower()) continue;  // somebody's own name for it
+        if (file.lastModified() < old) QFile::remove(file.filePath());
+    }
+}
+
 }  // namespace
 
-FileSettings::FileSettings() { Open(); }
+FileSettings::FileSettings() {
+    Open();
+    RemoveLeftovers(file_->fileName());
+}
 
 void FileSettings::Open() {
     QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/' +
