@@ -11,7 +11,8 @@ namespace {
 // Below this ratio the fine strokes of a figure would only dirty its colours.
 constexpr double detailRatio = 1.5;
 
-// The frame of one half in device pixels. Its upper left corner steps back for the suit mark.
+// The frame of one half in device pixels. Its upper left corner steps back for rank and suit mark, so
+// far down that the step stays hidden while another card covers all but the strip with the index.
 struct Frame {
     explicit Frame(const CardShape& shape)
         : left(shape.Px(15)),
@@ -19,7 +20,7 @@ struct Frame {
           right(shape.size.width() - left),
           bottom(shape.size.height() / 2),
           stepX(shape.Px(26)),
-          stepY(shape.Px(16)),
+          stepY(shape.Px(18)),
           line(shape.line) {}
 
     QRect Outside() const { return {left, top, right - left, bottom - top}; }

@@ -3,17 +3,22 @@
 #include "colours.h"
 #include "face.h"
 
+#include <vector>
+
 namespace varnello::render {
 
 namespace {
 
-// Strengths of 255.
+// Strengths of 255. A dark and a light line side by side leave no colour on which both fade: lines
+// keep 2 to 1 and marks 1.5 to 1 (varnello-slot-contrast measures it).
 constexpr int wellDepth = 26;  // a tenth darker than the table
-constexpr int outlineStrength = 90;
-constexpr int glintStrength = 28;
-constexpr int markStrength = 85;  // a third of full strength
-constexpr int shadowStrength = 70;
+constexpr int darkLineStrength = 122;
+constexpr int lightLineStrength = 118;
+constexpr int markStrength = 78;
+constexpr int contourStrength = 86;
 constexpr int signStrength = 180;
+
+constexpr int tenSlot = 9;
 
 QColor WithStrength(QColor colour, int strength) {
     colour.setAlpha(strength);
@@ -29,14 +34,16 @@ void DrawOutline(QPainter& painter, const CardShape& shape, double inset, const 
         QRectF(shape.Bounds()).adjusted(distance, distance, -distance, -distance), radius, radius);
 }
 
-// A shallow well. Its dark outline shows on light and coloured tables, the faint light within it
-// on black ones.
+// A shallow well within its two lines.
 void DrawWell(QPainter& painter, const CardShape& shape) {
+    const double inset = 2.0 * shape.line;
+    const double radius = shape.radius - inset;
     painter.setPen(Qt::NoPen);
     painter.setBrush(WithStrength(Qt::black, wellDepth));
-    painter.drawRoundedRect(shape.Bounds(), shape.radius, shape.radius);
-    DrawOutline(painter, shape, 0, WithStrength(Qt::black, outlineStrength));
-    DrawOutline(painter, shape, 1, WithStrength(paperColour, glintStrength));
+    painter.drawRoundedRect(QRectF(shape.Bounds()).adjusted(inset, inset, -inset, -inset), radius,
+                            radius);
+    DrawOutline(painter, shape, 0, WithStrength(Qt::black, darkLineStrength));
+    DrawOutline(painter, shape, 1, WithStrength(paperColour, lightLineStrength));
 }
 
 QRect Centred(const CardShape& shape, double y, double width, double height) {
@@ -45,11 +52,34 @@ QRect Centred(const CardShape& shape, double y, double width, double height) {
     return {(shape.size.width() - w) / 2, shape.Px(y), w, shape.Px(height)};
 }
 
-// A light mark over a dark shadow: one of the two stands out from any table.
+// Where copies of a mark darken the ground around it, in line widths: all around a figure, on one
+// side of what has finer parts.
+using Offsets = std::vector<QPoint>;
+const Offsets& Around() {
+    static const Offsets offsets{{-1, -1}, {0, -1}, {1, -1}, {-1, 0},
+                                 {1, 0},   {-1, 1}, {0, 1},  {1, 1}};
+    return offsets;
+}
+const Offsets& Below() {
+    static const Offsets offsets{{1, 0}, {0, 1}, {1, 1}};
+    return offsets;
+}
+
+// A light mark and a dark contour: one of the two stands out from any table.
 void DrawMark(QPainter& painter, const CardShape& shape, Artwork& artwork, const QString& file,
-              const QString& element, const QRect& place, int strength = markStrength) {
-    artwork.DrawTinted(painter, file, element, place.translated(0, shape.line),
-                       WithStrength(Qt::black, shadowStrength));
+              const QString& element, const QRect& place, const Offsets& contourAt,
+              int strength = markStrength) {
+    const auto stamp = [&](QPainter& inner, QPoint by) {
+        artwork.DrawTinted(inner, file, element, place.translated(by), Qt::black);
+    };
+    const QImage contour = PaintImage(shape.size, [&](QPainter& inner) {
+        for (const QPoint offset : contourAt) stamp(inner, offset * shape.line);
+        inner.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        stamp(inner, {});
+    });
+    painter.setOpacity(contourStrength / 255.0);
+    painter.drawImage(0, 0, contour);
+    painter.setOpacity(1);
     artwork.DrawTinted(painter, file, element, place, WithStrength(paperColour, strength));
 }
 
@@ -61,17 +91,20 @@ void DrawSlot(QPainter& painter, const CardShape& shape, Artwork& artwork, int s
     const QString signs = QStringLiteral("signs.svg");
     DrawWell(painter, shape);
     if (slot < rankCount) {
-        DrawMark(painter, shape, artwork, ranks, RankName(slot), Centred(shape, 16, 17, 23));
-        DrawMark(painter, shape, artwork, emblems, "emblem", Centred(shape, 52, 29, 29));
+        const double width = slot == tenSlot ? 21 : 17;  // two figures
+        DrawMark(painter, shape, artwork, ranks, RankName(slot), Centred(shape, 16, width, 23),
+                 Around());
+        DrawMark(painter, shape, artwork, emblems, "emblem", Centred(shape, 52, 29, 29), Below());
     } else if (slot == emblemSlot) {
-        DrawMark(painter, shape, artwork, emblems, "emblem", Centred(shape, 27.5, 41, 41));
+        DrawMark(painter, shape, artwork, emblems, "emblem", Centred(shape, 27.5, 41, 41), Below());
     } else if (slot == stopSlot) {
         artwork.Draw(painter, signs, "stop", Centred(shape, 31.5, 33, 33));
     } else if (slot == redealSlot) {
-        DrawMark(painter, shape, artwork, signs, "redeal", Centred(shape, 29.5, 37, 37),
+        DrawMark(painter, shape, artwork, signs, "redeal", Centred(shape, 29.5, 37, 37), Around(),
                  signStrength);
     } else if (slot == emptyStockSlot) {
-        DrawMark(painter, shape, artwork, signs, "empty-stock", Centred(shape, 29.5, 37, 37));
+        DrawMark(painter, shape, artwork, signs, "empty-stock", Centred(shape, 29.5, 37, 37),
+                 Around());
     }
 }
 

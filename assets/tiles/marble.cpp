@@ -65,12 +65,16 @@ Surface GreenMarble(QSize size) {
 
 Surface BlackMarble(QSize size) {
     return Marble(size,
-                  {Rgb(0x26272b),
-                   Rgb(0x35363b),
+                  {Rgb(0x292a2e),
+                   Rgb(0x333439),
                    Rgb(0xb5ad9f),
-                   3.2,
-                   {{1, 1, 0.7, 0.36}, {2, -1, 0.5, 0.33}, {1, 3, 0.4, 0.28}, {-3, 2, 0.4, 0.26}}},
-                  231);
+                   1.6,
+                   {{2, 3, 0.5, 0.25},
+                    {3, 4, 0.4, 0.22},
+                    {1, 4, 0.4, 0.20},
+                    {4, 3, 0.4, 0.20},
+                    {-3, 1, 0.4, 0.12}}},
+                  235);
 }
 
 Surface RoseMarble(QSize size) {

@@ -9,32 +9,33 @@ void DrawTrellis(QPainter& painter, const QRectF& area) {
     const QColor wood(0xdc, 0xd2, 0xae);
     const QColor leaf(0x86, 0xb4, 0x62);
     painter.fillRect(area, ground);
-    constexpr double mesh = 15.75;
-    const double reach = area.width() + area.height();
-    painter.setPen(QPen(wood, 1.4));
-    for (double offset = 0; offset < reach; offset += mesh) {
-        for (const double c : {offset, -offset}) {
-            painter.drawLine(QPointF(c - reach, -reach), QPointF(c + reach, reach));
-            painter.drawLine(QPointF(c - reach, reach), QPointF(c + reach, -reach));
-        }
-    }
-    // Four leaves around every crossing, and a bud in every mesh.
-    QPainterPath blade(QPointF(0, -1.2));
-    blade.cubicTo(-2.6, -2.6, -2.2, -5, 0, -6.8);
-    blade.cubicTo(2.2, -5, 2.6, -2.6, 0, -1.2);
+    const double meshX = area.width() / 3;
+    const double meshY = area.height() / 4;
+
+    // A sprig of three leaves in every mesh, upright in the upper half.
+    QPainterPath blade(QPointF(0, 1.5));
+    blade.cubicTo(-3.4, -0.5, -2.8, -4.6, 0, -7);
+    blade.cubicTo(2.8, -4.6, 3.4, -0.5, 0, 1.5);
     painter.setPen(Qt::NoPen);
-    OnGrid(painter, area, mesh / 2, mesh / 2, [&](int column, int row) {
-        if ((row + column) % 2 != 0) {
-            painter.setBrush(wood);
-            painter.drawEllipse(QPointF(), 0.9, 0.9);
-            return;
-        }
-        painter.setBrush(leaf);
-        for (int turn = 0; turn < 4; ++turn) {
+    painter.setBrush(leaf);
+    OnGrid(painter, area, meshX / 2, meshY / 2, [&](int column, int row) {
+        if ((row + column) % 2 == 0) return;
+        painter.translate(0, row == 0 ? 0 : 1);
+        for (const double degrees : {0.0, -90.0, 90.0}) {
+            painter.save();
+            painter.rotate(degrees);
             painter.drawPath(blade);
-            painter.rotate(90);
+            painter.restore();
         }
+        if (row == 0) painter.drawPath(QTransform::fromScale(1, -1).map(blade));
     });
+
+    painter.setPen(QPen(wood, 2));
+    for (int line = -8; line <= 8; ++line) {
+        const double x = line * meshX;
+        painter.drawLine(QPointF(x - 4 * meshX, -4 * meshY), QPointF(x + 4 * meshX, 4 * meshY));
+        painter.drawLine(QPointF(x - 4 * meshX, 4 * meshY), QPointF(x + 4 * meshX, -4 * meshY));
+    }
 }
 
 void DrawHedge(QPainter& painter, const QRectF& area) {

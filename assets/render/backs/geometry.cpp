@@ -29,14 +29,14 @@ void DrawInterlacedCircles(QPainter& painter, const QRectF& area) {
     const QColor teal(0x1e, 0x5c, 0x63);
     const QColor pale(0xd3, 0xe2, 0xd6);
     painter.fillRect(area, teal);
-    constexpr double stepX = 10.5;
-    constexpr double stepY = 11;
+    const double stepX = area.width() / 4;
+    const double stepY = area.height() / 6;
 
     // Where two circles overlap, the even-odd rule makes a petal of the ground colour.
     QPainterPath rings;
     rings.setFillRule(Qt::OddEvenFill);
-    for (int row = -5; row <= 5; ++row) {
-        for (int column = -4; column <= 4; ++column)
+    for (int row = -4; row <= 4; ++row) {
+        for (int column = -3; column <= 3; ++column)
             rings.addEllipse(QPointF(column * stepX, row * stepY), stepX * 0.7, stepY * 0.7);
     }
     painter.fillPath(rings, pale);
@@ -49,44 +49,42 @@ void DrawStarLattice(QPainter& painter, const QRectF& area) {
     const QColor wine(0x6c, 0x1f, 0x33);
     const QColor gold(0xd8, 0xb0, 0x5a);
     painter.fillRect(area, wine);
-    constexpr double stepX = 15.75;
-    constexpr double stepY = 14.6667;
-    const QPainterPath star = EightPointedStar(8.2);
-    const QPainterPath inner = EightPointedStar(4.6);
+    const double stepX = area.width() / 3;
+    const double stepY = area.height() / 4;
+    const QPainterPath star = EightPointedStar(8.6);
     OnGrid(painter, area, stepX, stepY, [&](int, int) {
-        painter.setPen(QPen(gold, 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(star);
         painter.setPen(Qt::NoPen);
         painter.setBrush(gold);
-        painter.drawPath(inner);
+        painter.drawPath(star);
         painter.setBrush(wine);
-        painter.drawEllipse(QPointF(), 1.5, 1.5);
-        painter.translate(stepX / 2, stepY / 2);
+        painter.drawEllipse(QPointF(), 4, 4);
         painter.setBrush(gold);
-        painter.drawPolygon(QPolygonF({{0, -2.4}, {2.4, 0}, {0, 2.4}, {-2.4, 0}}));
+        painter.drawEllipse(QPointF(), 1.7, 1.7);
+        painter.translate(stepX / 2, stepY / 2);
+        painter.drawPolygon(QPolygonF({{0, -4.5}, {4.5, 0}, {0, 4.5}, {-4.5, 0}}));
     });
 }
 
 void DrawWeave(QPainter& painter, const QRectF& area) {
-    const QColor gap(0x4a, 0x31, 0x1f);
+    const QColor gap(0x5a, 0x3c, 0x26);
     const QColor light(0xdb, 0xb6, 0x7f);
     const QColor dark(0xb9, 0x8a, 0x52);
     painter.fillRect(area, gap);
-    constexpr double cellX = 7.875;
-    constexpr double cellY = 8;
+    // Whole cells from edge to edge, in each a ribbon that passes over the one across it.
+    const double cellX = area.width() / 6;
+    const double cellY = area.height() / 8;
+    constexpr double slit = 1;
+    painter.setPen(Qt::NoPen);
     OnGrid(painter, area, cellX, cellY, [&](int column, int row) {
-        // Three strands a cell, lying across in every second one.
         const bool across = (row + column) % 2 == 0;
-        painter.translate(cellX / 2, cellY / 2);
-        for (int strand = -1; strand <= 1; ++strand) {
-            const QRectF band =
-                across ? QRectF(-cellX / 2 - 0.4, strand * cellY / 3 - 1.05, cellX + 0.8, 2.1)
-                       : QRectF(strand * cellX / 3 - 1.05, -cellY / 2 - 0.4, 2.1, cellY + 0.8);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(across ? light : dark);
-            painter.drawRoundedRect(band, 0.9, 0.9);
-        }
+        const QRectF cell(0, 0, cellX, cellY);
+        painter.setBrush(across ? dark : light);  // what passes under shows at the edges
+        painter.drawRect(across ? cell.adjusted(slit, 0, -slit, 0) : cell.adjusted(0, slit, 0, -slit));
+        painter.setBrush(gap);
+        painter.drawRect(across ? cell.adjusted(0, slit, 0, -slit) : cell.adjusted(slit, 0, -slit, 0));
+        painter.setBrush(across ? light : dark);
+        painter.drawRect(across ? cell.adjusted(0, 2 * slit, 0, -2 * slit)
+                                : cell.adjusted(2 * slit, 0, -2 * slit, 0));
     });
 }
 

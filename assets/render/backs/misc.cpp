@@ -114,19 +114,19 @@ void DrawFishScales(QPainter& painter, const QRectF& area) {
     const QColor deep(0x1d, 0x58, 0x5c);
     const QColor pale(0xb9, 0xd8, 0xcf);
     painter.fillRect(area, deep);
-    constexpr double width = 10.5;
-    constexpr double rise = 5.5;
+    const double width = area.width() / 5;
+    const double rise = area.height() / 12;
     // From the far edge to the seam, so that nearer scales lie on top.
-    const int rows = static_cast<int>(area.height() / 2 / rise) + 2;
-    for (int row = rows; row >= 0; --row) {
-        for (int column = -4; column <= 4; ++column) {
+    for (int row = 7; row >= 0; --row) {
+        for (int column = -3; column <= 3; ++column) {
             const double shift = row % 2 == 0 ? 0 : width / 2;
             const QPointF centre(column * width + shift, -row * rise);
-            painter.setPen(QPen(pale, 0.9));
+            painter.setPen(QPen(pale, 1.3));
             painter.setBrush(deep);
             painter.drawEllipse(centre, width / 2, width / 2 + 1);
-            painter.setPen(QPen(pale, 0.6));
-            painter.drawEllipse(centre, width / 2 - 2.2, width / 2 - 1.2);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(pale);
+            painter.drawEllipse(centre - QPointF(0, row == 0 ? 0 : 1.6), 2, 2);
         }
     }
 }

@@ -83,35 +83,48 @@ void DrawNightHills(QPainter& painter, const QRectF& area) {
     const QColor shine(0xe9, 0xe2, 0xbe);
     painter.fillRect(area, night);
 
-    const QPointF moon(15, -34);
+    const QPointF moon(14, -33);
     painter.setPen(Qt::NoPen);
     painter.setBrush(shine);
-    painter.drawEllipse(moon, 4, 4);
+    painter.drawEllipse(moon, 5.5, 5.5);
     painter.setBrush(night);
-    painter.drawEllipse(moon - QPointF(1.8, 0.6), 3.5, 3.5);
-
+    painter.drawEllipse(moon - QPointF(2.6, 1), 4.6, 4.6);
     painter.setBrush(shine);
-    for (int row = 0; row < 4; ++row) {
-        for (int column = -3; column <= 3; ++column) {
-            const QPointF star(column * 9.5 + (row % 2 == 0 ? 0 : 4.7), -41 + row * 5);
-            const QPointF apart = star - moon;
-            const double radius = (column + 2 * row) % 3 == 0 ? 0.85 : 0.5;
-            if (std::hypot(apart.x(), apart.y()) > 6) painter.drawEllipse(star, radius, radius);
-        }
-    }
+    for (const QPointF star : {QPointF(-26, -38), QPointF(-15, -31), QPointF(-4, -39),
+                               QPointF(27, -40), QPointF(-27, -25), QPointF(3, -28)})
+        painter.drawEllipse(star, 0.9, 0.9);
 
-    // Ranges of hills, each before the last; the nearest meets its turned copy at the seam.
-    for (int range = 0; range < 5; ++range) {
-        const double base = -22 + range * 4.6;
-        const double length = range % 2 == 0 ? 31.5 : 25;
-        const double phase = range * 2.3;
-        QPainterPath ridge(QPointF(area.left() - 1, 10));
-        for (double x = area.left() - 1; x <= area.right() + 1; x += 0.5)
-            ridge.lineTo(x, base - 2.8 * std::cos(2 * std::numbers::pi * x / length + phase));
-        ridge.lineTo(area.right() + 1, 10);
-        painter.setPen(QPen(shine, 0.5));
-        painter.setBrush(range % 2 == 0 ? hill : night);
-        painter.drawPath(ridge);
+    // Far hills in moonlight, each a broad back of its own.
+    QPainterPath far(QPointF(-40, 4));
+    far.lineTo(-40, -13);
+    far.cubicTo(-33, -13, -27, -23, -19, -23);
+    far.cubicTo(-11, -23, -8, -15, -2, -14);
+    far.cubicTo(5, -15, 9, -20, 17, -20);
+    far.cubicTo(26, -20, 32, -12, 40, -11);
+    far.lineTo(40, 4);
+    painter.setBrush(hill);
+    painter.drawPath(far);
+
+    // A dark slope before them, wooded with firs. It meets its turned copy at the seam.
+    const auto slope = [](double x) { return -5.5 + 0.09 * x - 0.0022 * x * x; };
+    QPainterPath near(QPointF(-40, 4));
+    for (double x = -40; x <= 40; x += 1) near.lineTo(x, slope(x));
+    near.lineTo(40, 4);
+    painter.setBrush(night);
+    painter.drawPath(near);
+    for (const auto& [x, height] :
+         {std::pair{-29.0, 9.0}, {-23.5, 7.0}, {-8.0, 8.0}, {-2.5, 10.5}, {3.0, 7.5}, {21.0, 8.5},
+          {27.0, 11.0}}) {
+        const double foot = slope(x) + 1.5;
+        QPainterPath fir(QPointF(x, foot - height));
+        for (const double tier : {0.45, 0.75, 1.0}) {
+            fir.moveTo(x, foot - height * (1.45 - tier));
+            fir.lineTo(x - 3.4 * tier, foot - height * (1 - tier));
+            fir.lineTo(x + 3.4 * tier, foot - height * (1 - tier));
+            fir.closeSubpath();
+        }
+        fir.setFillRule(Qt::WindingFill);
+        painter.drawPath(fir);
     }
 }
 
