@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QPainter>
 
+#include <array>
+
 namespace varnello::drawings {
 
 namespace {
@@ -15,7 +17,9 @@ constexpr int zoom = 4;  // of what is enlarged, each pixel as a square
 constexpr int columns = 4;
 constexpr QSize cell(190, 92);  // a small icon in three ways, its name below
 constexpr int textHeight = 16;
-constexpr int smallSizes = 6;  // of the program's icon, shown enlarged as well
+constexpr std::array smallSizes{16, 22, 24, 32, 48, 64};  // of the program's icon
+constexpr std::array enlargedSizes{16, 22, 24, 32, 48};
+constexpr std::array largeSizes{128, 256};
 
 struct Ground {
     QColor paper;
@@ -46,23 +50,23 @@ void DrawSmallIcon(QPainter& painter, QPoint at, const QString& file) {
 int DrawProgramIcon(QPainter& painter, QPoint at, const QString& folder) {
     int x = at.x();
     int row = 0;
-    for (int i = 0; i < smallSizes; ++i) {
-        const QImage icon = ProgramIcon(folder, kIconSizes[static_cast<std::size_t>(i)]);
+    for (const int size : smallSizes) {
+        const QImage icon = ProgramIcon(folder, size);
         painter.drawImage(x, at.y(), icon);
         x += icon.width() + gap;
         row = icon.height();
     }
     int y = at.y() + row + gap;
     x = at.x();
-    for (int i = 0; i < smallSizes - 1; ++i) {
-        const QImage icon = ProgramIcon(folder, kIconSizes[static_cast<std::size_t>(i)]);
+    for (const int size : enlargedSizes) {
+        const QImage icon = ProgramIcon(folder, size);
         DrawEnlarged(painter, {x, y}, icon, zoom);
         x += icon.width() * zoom + gap;
         row = icon.height() * zoom;
     }
     y += row + gap;
     x = at.x();
-    for (const int size : {128, 256}) {
+    for (const int size : largeSizes) {
         painter.drawImage(x, y, ProgramIcon(folder, size));
         x += size + gap;
         row = size;

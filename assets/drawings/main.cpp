@@ -14,27 +14,31 @@ namespace {
 using namespace varnello::drawings;
 
 constexpr const char* usage =
-    "usage: varnello-render-drawings drawings OUTPUT_DIR FILE.svg...\n"
-    "       varnello-render-drawings icon APP_ICON_DIR OUTPUT_DIR\n"
+    "usage: varnello-render-drawings drawings RATIO... -- OUTPUT_DIR FILE.svg...\n"
+    "       varnello-render-drawings icon APP_ICON_DIR OUTPUT_DIR SIZE...\n"
     "       varnello-render-drawings sheet ICONS_DIR OUT.png\n";
 
-/// At its own size and at two and three times that size: NAME.png, NAME@2x.png and NAME@3x.png.
-void WriteDrawing(const QString& source, const QString& output) {
+/// NAME.png at its own size, NAME@2x.png at twice that size, and so on.
+void WriteDrawing(const QString& source, const QString& output, const QStringList& ratios) {
     const Drawing drawing(source);
     const QString target = output + '/' + QFileInfo(source).completeBaseName();
-    Save(drawing.Picture(drawing.Size()), target + ".png");
-    Save(drawing.Picture(drawing.Size() * 2), target + "@2x.png");
-    Save(drawing.Picture(drawing.Size() * 3), target + "@3x.png");
+    for (const QString& ratio : ratios) {
+        const QString suffix = ratio == "1" ? QString() : '@' + ratio + 'x';
+        Save(drawing.Picture(drawing.Size() * ratio.toInt()), target + suffix + ".png");
+    }
 }
 
 /// Whether the words make sense.
 bool Run(const QStringList& words) {
-    if (words.size() < 4 || (words[1] != "drawings" && words.size() != 4)) return false;
-    if (words[1] == "drawings") {
-        for (const QString& source : words.mid(3)) WriteDrawing(source, words[2]);
-    } else if (words[1] == "icon") {
-        WriteProgramIcon(words[2], words[3]);
-    } else if (words[1] == "sheet") {
+    const QString mode = words.value(1);
+    if (mode == "drawings") {
+        const qsizetype end = words.indexOf("--");
+        if (end < 3 || words.size() < end + 3) return false;
+        for (const QString& source : words.mid(end + 2))
+            WriteDrawing(source, words[end + 1], words.mid(2, end - 2));
+    } else if (mode == "icon" && words.size() > 4) {
+        for (const QString& size : words.mid(4)) WriteProgramIcon(words[2], words[3], size.toInt());
+    } else if (mode == "sheet" && words.size() == 4) {
         Save(ContactSheet(words[2]), words[3]);
     } else {
         return false;

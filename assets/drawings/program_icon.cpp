@@ -27,14 +27,11 @@ QImage ProgramIcon(const QString& folder, int size) {
     return drawing.Picture({size, size});
 }
 
-void WriteProgramIcon(const QString& folder, const QString& output) {
-    for (const int size : kIconSizes) {
-        const QString place = output + QStringLiteral("/%1x%1").arg(size);
-        if (!QDir().mkpath(place)) {
-            throw std::runtime_error("cannot make folder " + place.toStdString());
-        }
-        Save(ProgramIcon(folder, size), place + "/varnello.png");
-    }
+void WriteProgramIcon(const QString& folder, const QString& output, int size) {
+    const QString place = output + QStringLiteral("/%1x%1").arg(size);
+    if (!QDir().mkpath(place))
+        throw std::runtime_error("cannot make folder " + place.toStdString());
+    Save(ProgramIcon(folder, size), place + "/varnello.png");
 }
 
 }  // namespace varnello::drawings

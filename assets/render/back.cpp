@@ -3,23 +3,40 @@
 #include "backs/patterns.h"
 #include "colours.h"
 
-#include <map>
-
 namespace varnello::render {
 
 namespace {
 
 constexpr double margin = 4;
 
-const std::map<int, Pattern>& Patterns() {
-    static const std::map<int, Pattern> patterns{
-        {501, DrawDaisies},     {502, DrawRoses},      {503, DrawTulips},
-        {511, DrawTrellis},     {512, DrawHedge},      {521, DrawInterlacedCircles},
-        {522, DrawStarLattice}, {523, DrawWeave},      {531, DrawDiagonalLattice},
-        {532, DrawSunburst},    {533, DrawFishScales}, {541, DrawWaves},
-        {542, DrawLeaves},      {543, DrawFeathers},   {544, DrawNightHills},
+struct Back {
+    int number;
+    Pattern pattern;
+};
+struct Group {
+    const char* name;
+    std::vector<Back> backs;
+};
+
+const std::vector<Group>& Groups() {
+    static const std::vector<Group> groups{
+        {"Flowers", {{501, DrawDaisies}, {502, DrawRoses}, {503, DrawTulips}}},
+        {"Garden", {{511, DrawTrellis}, {512, DrawHedge}}},
+        {"Geometry", {{521, DrawInterlacedCircles}, {522, DrawStarLattice}, {523, DrawWeave}}},
+        {"Misc", {{531, DrawDiagonalLattice}, {532, DrawSunburst}, {533, DrawFishScales}}},
+        {"Nature",
+         {{541, DrawWaves}, {542, DrawLeaves}, {543, DrawFeathers}, {544, DrawNightHills}}},
     };
-    return patterns;
+    return groups;
+}
+
+Pattern PatternOf(int number) {
+    for (const Group& group : Groups()) {
+        for (const Back& back : group.backs) {
+            if (back.number == number) return back.pattern;
+        }
+    }
+    return DrawDiagonalLattice;  // the default
 }
 
 // The upper half of the pattern within the margin; transparent elsewhere.
@@ -37,15 +54,18 @@ QImage PaintUpperHalf(const CardShape& shape, Pattern pattern) {
 
 }  // namespace
 
-std::vector<int> BackNumbers() {
-    std::vector<int> numbers;
-    for (const auto& [number, pattern] : Patterns()) numbers.push_back(number);
-    return numbers;
+std::vector<BackGroup> BackGroups() {
+    std::vector<BackGroup> groups;
+    for (const Group& group : Groups()) {
+        groups.push_back({group.name, {}});
+        for (const Back& back : group.backs) groups.back().numbers.push_back(back.number);
+    }
+    return groups;
 }
 
 void DrawBack(QPainter& painter, const CardShape& shape, int number) {
     DrawPaper(painter, shape);
-    const QImage upper = PaintUpperHalf(shape, Patterns().at(number));
+    const QImage upper = PaintUpperHalf(shape, PatternOf(number));
     painter.drawImage(0, 0, upper);
     painter.drawImage(0, 0, Turned(upper));
 }

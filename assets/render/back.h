@@ -7,9 +7,15 @@
 
 namespace varnello::render {
 
-// The numbers of all backs; the default is 531.
-std::vector<int> BackNumbers();
+struct BackGroup {
+    const char* name;
+    std::vector<int> numbers;
+};
 
+// All backs, in groups as a person chooses them.
+std::vector<BackGroup> BackGroups();
+
+// The back with this number; the default back for a number that has none.
 void DrawBack(QPainter& painter, const CardShape& shape, int number);
 
 }  // namespace varnello::render

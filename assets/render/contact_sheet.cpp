@@ -17,7 +17,9 @@ constexpr int gap = 12;
 QImage Column(const CardShape& shape, Artwork& artwork) {
     const QImage faces = FacesSheet(shape, artwork);
     const QImage empties = SlotsSheet(shape, artwork);
-    const std::vector<int> numbers = BackNumbers();
+    std::vector<int> numbers;
+    for (const BackGroup& group : BackGroups())
+        numbers.insert(numbers.end(), group.numbers.begin(), group.numbers.end());
     const int step = shape.size.width() + gap / 2;
     const int width = std::max(empties.width(), step * static_cast<int>(numbers.size()));
     const int height = faces.height() + empties.height() + shape.size.height() + 2 * gap;

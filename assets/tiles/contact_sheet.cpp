@@ -1,12 +1,13 @@
 #include "contact_sheet.h"
 
+#include "render/sheets.h"
 #include "tile.h"
 
 #include <QBrush>
 #include <QPainter>
 
 #include <algorithm>
-#include <stdexcept>
+#include <vector>
 
 namespace varnello::tiles {
 
@@ -16,12 +17,6 @@ constexpr QSize area(320, 220);
 constexpr int gap = 8;
 constexpr int cardWidth = 71;
 constexpr int cardHeight = 96;
-
-QImage Sheet(const QString& path) {
-    QImage image(path);
-    if (image.isNull()) throw std::runtime_error("cannot read " + path.toStdString());
-    return image;
-}
 
 // A corner of a game: a pile fanned down, single cards, and slots between them.
 void DrawCards(QPainter& painter, const QImage& faces, const QImage& empties) {
@@ -40,23 +35,26 @@ void DrawCards(QPainter& painter, const QImage& faces, const QImage& empties) {
 
 }  // namespace
 
-QImage ContactSheet(const std::vector<std::vector<Tile>>& groups, const QString& cardsFolder) {
-    const QImage faces = Sheet(cardsFolder + "/faces@1.png");
-    const QImage empties = Sheet(cardsFolder + "/slots@1.png");
+QImage ContactSheet(const QString& cardsFolder) {
+    render::Artwork artwork(cardsFolder);
+    const render::CardShape shape(1);
+    const QImage faces = FacesSheet(shape, artwork);
+    const QImage empties = SlotsSheet(shape, artwork);
+    const std::vector<TileGroup>& groups = TileGroups();
     std::size_t columns = 0;
-    for (const std::vector<Tile>& group : groups) columns = std::max(columns, group.size());
+    for (const TileGroup& group : groups) columns = std::max(columns, group.tiles.size());
     QImage sheet(static_cast<int>(columns) * (area.width() + gap) + gap,
                  static_cast<int>(groups.size()) * (area.height() + gap) + gap,
                  QImage::Format_RGB32);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     int y = gap;
-    for (const std::vector<Tile>& group : groups) {
+    for (const TileGroup& group : groups) {
         int x = gap;
-        for (const Tile& tile : group) {
+        for (const Tile& tile : group.tiles) {
             painter.save();
             painter.translate(x, y);
-            painter.fillRect(QRect(QPoint(0, 0), area), QBrush(Paint(tile).plain));
+            painter.fillRect(QRect(QPoint(0, 0), area), QBrush(Paint(tile, 1)));
             DrawCards(painter, faces, empties);
             painter.restore();
             x += area.width() + gap;

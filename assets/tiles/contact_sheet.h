@@ -4,13 +4,9 @@
 #include <QImage>
 #include <QString>
 
-#include <vector>
-
 namespace varnello::tiles {
 
-struct Tile;
-
-// One row for each group. The folder holds the rendered card sheets.
-QImage ContactSheet(const std::vector<std::vector<Tile>>& groups, const QString& cardsFolder);
+// One row for each group. The folder holds the drawings of the cards.
+QImage ContactSheet(const QString& cardsFolder);
 
 }  // namespace varnello::tiles

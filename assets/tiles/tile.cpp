@@ -13,7 +13,8 @@ namespace {
 // How much of the large patches is taken out.
 constexpr double evenness = 0.9;
 
-constexpr int denseRatio = 2;
+// Samples for each pixel of the plain size, at least, in a row and in a column.
+constexpr double density = 2;
 
 // Replaces each value of a closed line of values by the mean of its surroundings.
 void Smooth(Colour* first, int count, int step, int reach) {
@@ -66,20 +67,25 @@ QImage Shrink(const std::vector<Colour>& pixels, QSize size, int square) {
 
 }  // namespace
 
-Pictures Paint(const Tile& tile) {
+QImage Paint(const Tile& tile, double scale) {
     const Surface surface = tile.make(tile.size);
-    const QSize size = tile.size * denseRatio;
-    std::vector<Colour> pixels;
+    const QSize wanted = (QSizeF(tile.size) * scale).toSize();
+    const int square = std::clamp(static_cast<int>(std::ceil(density / scale)), 1, 2);
+    const QSize size = wanted * square;
+    const double across = static_cast<double>(tile.size.width()) / size.width();
+    const double down = static_cast<double>(tile.size.height()) / size.height();
+    std::vector<Colour> pixels(TableIndex(0, size.height(), size.width()));
     for (int row = 0; row < size.height(); ++row) {
         for (int column = 0; column < size.width(); ++column)
-            pixels.push_back(surface((column + 0.5) / denseRatio, (row + 0.5) / denseRatio));
+            pixels[TableIndex(column, row, size.width())] =
+                surface((column + 0.5) * across, (row + 0.5) * down);
     }
     const std::vector<Colour> large = LargeColours(pixels, size);
     const Colour mean = std::accumulate(large.begin(), large.end(), Colour()) *
                         (1 / static_cast<double>(large.size()));
     for (std::size_t index = 0; index < pixels.size(); ++index)
         pixels[index] = pixels[index] + (mean + large[index] * -1) * evenness;
-    return {Shrink(pixels, size, denseRatio), Shrink(pixels, size, 1)};
+    return Shrink(pixels, size, square);
 }
 
 }  // namespace varnello::tiles

@@ -16,18 +16,25 @@ using Surface = std::function<Colour(double x, double y)>;
 
 struct Tile {
     int id;
-    QSize size;
+    QSize size;  // in pixels at scale 1
     Surface (*make)(QSize size);
 };
 
-struct Pictures {
-    QImage plain;
-    QImage dense;  // twice the size, for dense screens
+struct TileGroup {
+    const char* name;
+    std::vector<Tile> tiles;
 };
 
+// All tiles, in groups as a person chooses them.
+const std::vector<TileGroup>& TileGroups();
+
+// Null for a number that no tile has.
+const Tile* FindTile(int id);
+
+// The tile at a scale: 1 gives its own size, 2 twice as many pixels each way, with finer detail.
 // What is left of large light and dark patches, which would show as a grid on the table, is taken
 // out.
-Pictures Paint(const Tile& tile);
+QImage Paint(const Tile& tile, double scale);
 
 std::vector<Tile> BrickTiles();
 std::vector<Tile> MarbleTiles();

@@ -1,4 +1,5 @@
 #include <QRegularExpression>
+#include <QScrollBar>
 
 #include "desktop/help/pages.h"
 #include "engine/definitions/describe.h"
@@ -72,9 +73,75 @@ private Q_SLOTS:
         fixture.window.ShowSelect();
         fixture.window.select()->rules()->click();
         QVERIFY(help->windowTitle().startsWith("Baker's Game"));
-        help->find()->setText("reserve");
-        QTest::keyClick(help->find(), Qt::Key_Return);
-        QCOMPARE(help->browser()->textCursor().selectedText().toLower(), "reserve");
+    }
+
+    void FindsWhileOneTypes() {
+        WindowFixture fixture;
+        fixture.window.menu().mHelp(1)->trigger();
+        HelpWindow* help = Help();
+        QVERIFY(QTest::qWaitForWindowActive(help));
+        const auto at = [&] { return help->browser()->textCursor().selectionStart(); };
+        const auto selected = [&] {
+            return help->browser()->textCursor().selectedText().toLower();
+        };
+        QTest::keyClicks(help->find(), "free");
+        QCOMPARE(selected(), "free");
+        const int first = at();
+        QTest::keyClicks(help->find(), "cell");
+        QCOMPARE(selected(), "freecell");
+        QCOMPARE(at(), first);
+        QTest::keyClick(help, Qt::Key_F3);
+        const int second = at();
+        QVERIFY(second > first);
+        QTest::keyClick(help, Qt::Key_F3, Qt::ShiftModifier);
+        QCOMPARE(at(), first);
+        QTest::keyClick(help, Qt::Key_F3, Qt::ShiftModifier);  // around the page's beginning
+        QVERIFY(at() > second);
+        QCOMPARE(help->Found(), "");
+        QTest::keyClicks(help->find(), "zz");
+        QCOMPARE(help->Found(), "Not on this page");
+        QCOMPARE(selected(), "");
+    }
+
+    void TheGridFollowsTheWidth() {
+        WindowFixture fixture;
+        fixture.window.menu().mHelp(1)->trigger();
+        HelpWindow* help = Help();
+        for (const int columns : {1, 2, 4}) {
+            help->resize(210 + columns * 170, 600);
+            QVERIFY(help->browser()->horizontalScrollBar()->maximum() == 0);
+            QVERIFY2(help->browser()->toHtml().contains(QRegularExpression(
+                         QStringLiteral("(<td[^>]*>(?:(?!<t[dr]).)*){%1}</tr>").arg(columns),
+                         QRegularExpression::DotMatchesEverythingOption)),
+                     qPrintable(QString::number(columns)));
+        }
+    }
+
+    void OpensBesideTheTableAndComesBackAsItWasLeft() {
+        const QRect screen(0, 0, 1920, 1080);
+        // Of the corners the one that covers least, or the right upper one.
+        QCOMPARE(PlaceBeside(screen, {0, 0, 1200, 900}, {700, 600}), QRect(1220, 0, 700, 600));
+        QCOMPARE(PlaceBeside(screen, {720, 0, 1200, 900}, {700, 600}), QRect(0, 0, 700, 600));
+        QCOMPARE(PlaceBeside(screen, {444, 60, 1032, 747}, {700, 600}), QRect(1220, 480, 700, 600));
+        QCOMPARE(PlaceBeside({0, 0, 500, 400}, {0, 0, 500, 400}, {700, 600}),
+                 QRect(0, 0, 500, 400));
+
+        MemoryStore store;
+        const QWidget table;
+        const auto open = [&](const auto& act) {
+            HelpWindow help(store, table);
+            help.ShowPage("contents");
+            act(help);
+        };
+        open([](HelpWindow& help) {
+            QTRY_VERIFY(help.isActiveWindow());
+            help.showMinimized();
+            help.ShowPage("playing");
+            QVERIFY(!help.isMinimized());
+            help.setGeometry(40, 50, 500, 450);
+            help.close();
+        });
+        open([](HelpWindow& help) { QCOMPARE(help.geometry(), QRect(40, 50, 500, 450)); });
     }
 };
 

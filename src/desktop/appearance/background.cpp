@@ -4,6 +4,7 @@
 
 #include "desktop/appearance/colours.h"
 #include "engine/common/rounding.h"
+#include "tiles/tile.h"
 
 namespace varnello {
 namespace {
@@ -32,18 +33,9 @@ void SetBG(QImage& surface, double ratio, const BackgroundChoice& choice) {
 }
 
 bool TileFill(QImage& surface, double ratio, int id) {
-    const QImage plain(QStringLiteral(":/tiles/%1.png").arg(id));
-    if (plain.isNull()) return false;
-    QImage tile = plain;
-    if (ratio > 1) {
-        tile = QImage(QStringLiteral(":/tiles/%1@2x.png").arg(id));
-        if (ratio != 2) {
-            tile = tile.scaled((QSizeF(plain.size()) * ratio).toSize(), Qt::IgnoreAspectRatio,
-                               Qt::SmoothTransformation);
-        }
-    }
-    tile.setDevicePixelRatio(
-        1);  // the file's name has set it, but the surface counts device pixels
+    const tiles::Tile* found = tiles::FindTile(id);
+    if (!found) return false;
+    const QImage tile = tiles::Paint(*found, ratio);
     QPainter painter(&surface);
     for (int y = 0; y < surface.height(); y += tile.height()) {
         for (int x = 0; x < surface.width(); x += tile.width()) painter.drawImage(x, y, tile);

@@ -10,8 +10,8 @@ struct Row {
     int red, green, blue;
 };
 
-// In the order of their numbers, the first being one above the custom colour's.
-constexpr std::array<Row, 25> kColours{{
+// In the order of their numbers.
+constexpr auto kColours = std::to_array<Row>({
     {"Blue", 0, 0, 255},
     {"Brown", 165, 42, 42},
     {"Chocolate", 210, 105, 30},
@@ -37,15 +37,22 @@ constexpr std::array<Row, 25> kColours{{
     {"Sea Green", 46, 139, 87},
     {"Sienna", 160, 82, 45},
     {"Tomato", 255, 99, 71},
-}};
+});
+static_assert(kColours.size() >= kOfferedColours);
 
 }  // namespace
 
 std::optional<NamedColour> GetCol(int bgIndex) {
-    const int place = bgIndex - kCustomBackground - 1;
+    const int place = bgIndex - kFirstColour;
     if (place < 0 || place >= static_cast<int>(kColours.size())) return std::nullopt;
     const Row& row = kColours[static_cast<std::size_t>(place)];
     return NamedColour{QString::fromLatin1(row.name), QColor(row.red, row.green, row.blue)};
+}
+
+QColor AccentColour(const QPalette& palette) {
+    constexpr int kMiddle = 128;
+    const bool dark = palette.color(QPalette::Base).lightness() < kMiddle;
+    return dark ? QColor(0xE6, 0xAE, 0x60) : QColor(0x96, 0x5A, 0x0C);
 }
 
 std::optional<QColor> ColourOfValue(std::int32_t value) {

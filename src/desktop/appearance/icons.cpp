@@ -1,13 +1,21 @@
 #include "desktop/appearance/icons.h"
 
+#include <QDir>
+
 namespace varnello {
 
-QIcon SmallIcon(const QString& name) { return QIcon(QStringLiteral(":/icons/%1.png").arg(name)); }
+QIcon SmallIcon(const QString& name) {
+    const QString file = QStringLiteral(":/icons/%1.png").arg(name);
+    QIcon icon(file);
+    icon.addFile(file, {}, QIcon::Selected);  // a selection doesn't tint it
+    return icon;
+}
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
-        icon.addFile(QStringLiteral(":/icons/app/%1x%1/varnello.png").arg(size));
+    const QDir sizes(QStringLiteral(":/icons/app"));
+    for (const QString& size : sizes.entryList()) {
+        icon.addFile(sizes.filePath(size + QStringLiteral("/varnello.png")));
     }
     return icon;
 }

@@ -17,8 +17,4 @@ const QList<LookGroup>& TileGroups();
 /// The deck backs.
 const QList<LookGroup>& DeckGroups();
 
-/// Named colours that are offered; a few more paint correctly if stored by hand.
-inline constexpr int kFirstOfferedColour = 1001;
-inline constexpr int kLastOfferedColour = 1020;
-
 }  // namespace varnello

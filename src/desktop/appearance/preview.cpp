@@ -45,13 +45,14 @@ QRect VisiblePart(QSize table, const QRect& cards, int margin) {
 
 }  // namespace
 
-QPixmap PreviewOf(const std::string& game, double ratio) {
+QPixmap Previews::Of(const std::string& game, double ratio) {
     NullDesktop nothing;
     Engine engine(nothing.Interfaces({}));
     engine.data().Set(keys::Autoplay, 0);
     engine.life().StartGame(game, GameNumber::Number(kDealNumber));
 
-    const CardPictures pictures(ratio);
+    if (!pictures_ || pictures_->Ratio() != ratio) pictures_.emplace(ratio);
+    const CardPictures& pictures = *pictures_;
     QImage picture = BackgroundPicture(ratio, {.fade = false});
     QPainter painter(&picture);
     PaintTable(painter, engine.table(), pictures, keys::DeckIndex.Default, picture.rect());

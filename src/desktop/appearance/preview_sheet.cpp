@@ -25,11 +25,12 @@ QImage Sheet(double ratio) {
     sheet.setDevicePixelRatio(ratio);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
+    Previews previews;
     int index = 0;
     for (const auto& game : kCatalogue) {
         const QPoint at(kGap + index % kColumns * step, kGap + index / kColumns * line);
         painter.drawText(QRect(at, QSize(kPreviewSize.width(), kTextHeight)), ToQt(game.Name));
-        painter.drawPixmap(at + QPoint(0, kTextHeight), PreviewOf(std::string(game.Name), ratio));
+        painter.drawPixmap(at + QPoint(0, kTextHeight), previews.Of(std::string(game.Name), ratio));
         ++index;
     }
     return sheet;

@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
-#include "desktop/appearance/preview.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
 
@@ -114,7 +113,7 @@ void SelectDialog::ShowGame() {
     rules_->setEnabled(!game.isEmpty());
     if (game.isEmpty()) return;  // the root keeps the last game's name and picture
     name_->setText(game);
-    preview_->setPixmap(PreviewOf(game.toStdString(), devicePixelRatioF()));
+    preview_->setPixmap(previews_.Of(game.toStdString(), devicePixelRatioF()));
 }
 
 void SelectDialog::Play() {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "desktop/appearance/preview.h"
 #include "desktop/choosers/game_choice.h"
 #include "engine/flow/engine.h"
 
@@ -45,6 +46,7 @@ private:
     QComboBox* players_;
     QLabel* name_;
     QLabel* preview_;
+    Previews previews_;
     QPushButton* play_;
     QPushButton* rules_;
     QTimer Timer1_;

@@ -91,7 +91,7 @@ void CustomizeDialog::ChooseColor() {
     const QColor chosen = QColorDialog::getColor(now, this);
     if (!chosen.isValid()) return;
     background_.customColor = ValueOfColour(chosen);
-    PaintPreviews();
+    ShowCustomColor();
 }
 
 void CustomizeDialog::ClearRecent() {

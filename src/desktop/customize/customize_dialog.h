@@ -50,6 +50,8 @@ private:
     void ChooseDeck();
     void ChooseColor();
     void PaintPreviews();
+    QIcon IconOfBackground(int bgIndex) const;
+    void ShowCustomColor();
     void UpdateColorControls(bool hasTag);
     void ClearRecent();
     void Ok();
@@ -63,6 +65,7 @@ private:
     QComboBox* imcRange_ = nullptr;
     QPushButton* cmdClearRecent_ = nullptr;
     QTreeWidget* tvBGround_;
+    QTreeWidgetItem* customItem_ = nullptr;
     LookPreview* Picture1_;
     QCheckBox* chkFade_;
     QPushButton* cmdCustom_;

@@ -8,22 +8,23 @@
 namespace varnello {
 namespace {
 
-constexpr int kSide = 16;   // pixels
-constexpr int kShown = 64;  // pixels of a background that are shrunk to an icon
+constexpr int kSide = 16;         // pixels
+constexpr double kShrunk = 0.25;  // how large a background's own pixels are shown
 constexpr QColor kEdge(0, 0, 0, 90);
 
-/// `picture` shrunk into the middle of an icon, with a fine edge.
-QIcon Shrunk(const QImage& picture, const QSize& size, double ratio) {
-    QPixmap icon(QSize(kSide, kSide) * ratio);
-    icon.setDevicePixelRatio(ratio);
-    icon.fill(Qt::transparent);
-    QImage small = picture.scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    small.setDevicePixelRatio(1);
-    QPainter painter(&icon);
-    const QRect place(QPoint((kSide - size.width()) / 2, (kSide - size.height()) / 2), size);
-    painter.drawImage(place, small);
+/// `picture` in the middle of an icon, with a fine edge.
+QIcon IconOf(const QImage& picture, double ratio) {
+    QPixmap pixmap(QSize(kSide, kSide) * ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const QRect place(QPoint((pixmap.width() - picture.width()) / 2, 0), picture.size());
+    painter.drawImage(place.topLeft(), picture);
     painter.setPen(kEdge);
     painter.drawRect(place.adjusted(0, 0, -1, -1));
+    painter.end();
+    pixmap.setDevicePixelRatio(ratio);
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);  // a selection doesn't tint it
     return icon;
 }
 
@@ -31,16 +32,17 @@ QIcon Shrunk(const QImage& picture, const QSize& size, double ratio) {
 
 QIcon BackgroundIcon(const BackgroundChoice& choice) {
     const double ratio = qApp->devicePixelRatio();
-    QImage surface(QSize(kShown, kShown) * ratio, QImage::Format_RGB32);
-    SetBG(surface, ratio, choice);
-    return Shrunk(surface, {kSide, kSide}, ratio);
+    QImage surface(QSize(kSide, kSide) * ratio, QImage::Format_RGB32);
+    SetBG(surface, ratio * kShrunk, choice);
+    return IconOf(surface, ratio);
 }
 
 QIcon DeckIcon(int deckIndex) {
     const double ratio = qApp->devicePixelRatio();
     const CardPictures pictures(ratio);
     const CardPictures::Part back = pictures.DeckPic(deckIndex);
-    return Shrunk(back.sheet->copy(back.rect), {12, kSide}, ratio);
+    return IconOf(back.sheet->scaledToHeight(qRound(kSide * ratio), Qt::SmoothTransformation),
+                  ratio);
 }
 
 }  // namespace varnello

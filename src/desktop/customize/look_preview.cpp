@@ -14,6 +14,7 @@ LookPreview::LookPreview(const QString& name) {
 
 void LookPreview::ShowBackground(const BackgroundChoice& choice) {
     choice_ = choice;
+    background_ = {};
     update();
 }
 
@@ -25,8 +26,12 @@ void LookPreview::ShowDeck(int deckIndex) {
 void LookPreview::paintEvent(QPaintEvent* event) {
     const double ratio = devicePixelRatioF();
     const QRect inside = contentsRect();
-    QImage surface((QSizeF(inside.size()) * ratio).toSize(), QImage::Format_RGB32);
-    SetBG(surface, ratio, choice_);
+    const QSize size = (QSizeF(inside.size()) * ratio).toSize();
+    if (background_.size() != size) {
+        background_ = QImage(size, QImage::Format_RGB32);
+        SetBG(background_, ratio, choice_);
+    }
+    QImage surface = background_;
     if (deckIndex_) {
         const CardPictures pictures(ratio);
         const CardPictures::Part back = pictures.DeckPic(*deckIndex_);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QImage>
 #include <optional>
 
 #include "desktop/appearance/background.h"
@@ -25,6 +26,7 @@ protected:
 private:
     BackgroundChoice choice_;
     std::optional<int> deckIndex_;
+    QImage background_;  ///< as it was painted last
 };
 
 }  // namespace varnello

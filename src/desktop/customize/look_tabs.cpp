@@ -1,5 +1,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "desktop/appearance/colours.h"
 #include "desktop/appearance/looks.h"
@@ -13,29 +14,38 @@ namespace {
 constexpr int kTag = Qt::UserRole;
 
 /// Adds an item with its number, and selects it if it is the chosen one.
-void AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QString& text, int tag, int chosen,
-             const QIcon& icon) {
+QTreeWidgetItem* AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QString& text, int tag,
+                         int chosen) {
     auto* item = new QTreeWidgetItem(parent, {text});
     item->setData(0, kTag, tag);
-    item->setIcon(0, icon);
-    if (tag != chosen) return;
-    for (QTreeWidgetItem* node = parent; node; node = node->parent()) node->setExpanded(true);
-    tree->setCurrentItem(item);
+    if (tag == chosen) {
+        for (QTreeWidgetItem* node = parent; node; node = node->parent()) node->setExpanded(true);
+        tree->setCurrentItem(item);
+    }
+    return item;
 }
 
-void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups, int chosen,
-               QIcon (*iconOf)(int)) {
+void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups,
+               int chosen) {
     for (const LookGroup& group : groups) {
         auto* node = new QTreeWidgetItem(root, {group.name});
         int number = 0;
         for (const int id : group.ids) {
-            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen,
-                    iconOf(id));
+            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen);
         }
     }
 }
 
-QIcon TileIcon(int id) { return BackgroundIcon({.bgIndex = id}); }
+/// Draws the icons of a group when it opens for the first time.
+void DrawIconsWhenOpened(QTreeWidget* tree, const std::function<QIcon(int)>& iconOf) {
+    QObject::connect(tree, &QTreeWidget::itemExpanded, tree, [iconOf](QTreeWidgetItem* group) {
+        for (int i = 0; i < group->childCount(); ++i) {
+            QTreeWidgetItem* item = group->child(i);
+            const QVariant tag = item->data(0, kTag);
+            if (tag.isValid() && item->icon(0).isNull()) item->setIcon(0, iconOf(tag.toInt()));
+        }
+    });
+}
 
 QVariant TagOf(const QTreeWidgetItem* item) { return item ? item->data(0, kTag) : QVariant(); }
 
@@ -75,16 +85,24 @@ QWidget* CustomizeDialog::MakeBackground() {
 
 void CustomizeDialog::FillBackgrounds() {
     QTreeWidgetItem* root = Root(tvBGround_, QStringLiteral("Backgrounds"));
+    DrawIconsWhenOpened(tvBGround_, [this](int id) { return IconOfBackground(id); });
     auto* colors = new QTreeWidgetItem(root, {QStringLiteral("Colors")});
-    AddItem(
-        tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground, background_.bgIndex,
-        BackgroundIcon(
-            {.bgIndex = kCustomBackground, .fade = false, .customColor = background_.customColor}));
-    for (int id = kFirstOfferedColour; id <= kLastOfferedColour; ++id) {
-        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex,
-                BackgroundIcon({.bgIndex = id, .fade = false}));
+    customItem_ = AddItem(tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground,
+                          background_.bgIndex);
+    for (int id = kFirstColour; id < kFirstColour + kOfferedColours; ++id) {
+        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
     }
-    AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex, TileIcon);
+    AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
+}
+
+QIcon CustomizeDialog::IconOfBackground(int bgIndex) const {
+    return BackgroundIcon(
+        {.bgIndex = bgIndex, .fade = false, .customColor = background_.customColor});
+}
+
+void CustomizeDialog::ShowCustomColor() {
+    customItem_->setIcon(0, IconOfBackground(kCustomBackground));
+    PaintPreviews();
 }
 
 void CustomizeDialog::UpdateColorControls(bool hasTag) {
@@ -113,7 +131,9 @@ QWidget* CustomizeDialog::MakeDecks() {
 }
 
 void CustomizeDialog::FillDecks() {
-    AddGroups(tvDeck_, Root(tvDeck_, QStringLiteral("Decks")), DeckGroups(), deck_, DeckIcon);
+    QTreeWidgetItem* root = Root(tvDeck_, QStringLiteral("Decks"));
+    DrawIconsWhenOpened(tvDeck_, DeckIcon);
+    AddGroups(tvDeck_, root, DeckGroups(), deck_);
 }
 
 void CustomizeDialog::ChooseDeck() {

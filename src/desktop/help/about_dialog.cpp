@@ -11,17 +11,21 @@
 namespace varnello {
 namespace {
 
-constexpr QSize kSize(463, 299);
-constexpr int kEmblem = 96;
+constexpr int kLeastWidth = 463;
+constexpr int kSides = 24;
+constexpr QSize kTitleSize(329, 150);
+constexpr QColor kInk(0x16, 0x18, 0x1D);
+constexpr QColor kQuietInk(0x5A, 0x5A, 0x5A);
 
-QLabel* Line(const QString& text, double scale, bool bold) {
+QLabel* Line(const QString& text, double scale, const QColor& ink) {
     auto* label = new QLabel(text);
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * scale);
-    font.setBold(bold);
     label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, ink);
+    label->setPalette(palette);
     label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
     return label;
 }
 
@@ -30,34 +34,36 @@ QLabel* Line(const QString& text, double scale, bool bold) {
 AboutDialog::AboutDialog(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
     setWindowTitle(QStringLiteral("About ") + ToQt(kProductName));
-    setFixedSize(kSize);
     QPalette white = palette();
     white.setColor(QPalette::Window, Qt::white);
-    white.setColor(QPalette::WindowText, QColor(0x20, 0x22, 0x28));
     setPalette(white);
 
-    auto* emblem = new QLabel;
-    emblem->setPixmap(QIcon(QStringLiteral(":/splash/about.png"))
-                          .pixmap(QSize(kEmblem, kEmblem), devicePixelRatioF()));
-    emblem->setAlignment(Qt::AlignCenter);
+    // The name is drawn; who can't see it is told.
+    auto* lblName = new QLabel;
+    lblName->setPixmap(
+        QIcon(QStringLiteral(":/splash/title.png")).pixmap(kTitleSize, devicePixelRatioF()));
+    lblName->setAlignment(Qt::AlignCenter);
+    lblName->setMinimumWidth(kLeastWidth - kSides * 2);
+    lblName->setAccessibleName(ToQt(kProductName));
     auto* ok = new QPushButton(QStringLiteral("OK"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(kSides, 20, kSides, 16);
+    all->addWidget(lblName);
+    all->addSpacing(10);
+    all->addWidget(
+        Line(QStringLiteral("Patience for a quiet hour. The cards will wait."), 1.15, kInk));
+    all->addSpacing(4);
+    all->addWidget(Line(QStringLiteral("Version %1").arg(ToQt(kVersion)), 1, kQuietInk));
+    all->addWidget(Line(QStringLiteral("Free software under the GNU General Public License,\n"
+                                       "version 3 or later"),
+                        0.9, kQuietInk));
     all->addStretch();
-    all->addWidget(emblem);
-    all->addWidget(Line(ToQt(kProductName), 2.0, true));
-    all->addWidget(Line(QStringLiteral("Version ") + ToQt(kVersion), 1.0, false));
-    all->addSpacing(6);
-    all->addWidget(Line(QStringLiteral("Thirty-five games of patience for a quiet hour. Take your "
-                                       "time; the cards will wait."),
-                        1.0, false));
-    all->addWidget(Line(QStringLiteral("Free software under the GNU General Public License, "
-                                       "version 3 or later."),
-                        0.9, false));
-    all->addStretch();
+    all->addSpacing(10);
     all->addWidget(ok, 0, Qt::AlignCenter);
+    all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 }  // namespace varnello

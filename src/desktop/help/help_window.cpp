@@ -1,11 +1,11 @@
 #include "desktop/help/help_window.h"
 
+#include <QScreen>
 #include <QShortcut>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
-#include "desktop/appearance/preview.h"
 #include "desktop/help/pages.h"
 #include "desktop/platform/text.h"
 #include "engine/settings/data.h"
@@ -13,62 +13,39 @@
 namespace varnello {
 namespace {
 
-constexpr QSize kSize(640, 620);
-constexpr int kMargin = 14;
-const QString kPreviewScheme = QStringLiteral("preview");
-const QString kPageScheme = QStringLiteral("page");
-
-QUrl UrlOf(const QString& page) {
-    QUrl url;
-    url.setScheme(kPageScheme);
-    url.setPath(page);
-    return url;
-}
-
-/// The page that a link names: "playing", or "game:" and a game.
-QString PageOfLink(const QUrl& link) {
-    const bool plain = link.scheme().isEmpty() || link.scheme() == kPageScheme;
-    return plain ? link.path() : link.scheme() + ':' + link.path();
-}
-
-/// Serves the pages and the pictures in them; nothing comes from outside the program.
-class Pages : public QTextBrowser {
-public:
-    using QTextBrowser::QTextBrowser;
-
-protected:
-    QVariant loadResource(int type, const QUrl& name) override {
-        if (type == QTextDocument::ImageResource && name.scheme() == kPreviewScheme) {
-            return PreviewOf(name.path().toStdString(), devicePixelRatioF());
-        }
-        const HelpPage page = PageOf(name.path());
-        if (page.html.isEmpty()) return {};
-        return QStringLiteral("<h1>%1</h1>%2").arg(page.title.toHtmlEscaped(), page.html);
-    }
-};
+constexpr QSize kSize(720, 680);
+constexpr int kFrame = 32;       // what a window manager may add at the top
+constexpr int kFindWidth = 220;  // at most
 
 }  // namespace
 
-HelpWindow::HelpWindow(QWidget* parent)
-    : QWidget(parent, Qt::Window), browser_(new Pages), find_(new QLineEdit) {
+HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
+    : QWidget(nullptr, Qt::Window),
+      table_(table),
+      browser_(new PageBrowser),
+      find_(new QLineEdit),
+      found_(new QLabel),
+      place_(*this, store, "Help") {
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    AddTools();
+    all->addWidget(browser_);
+    connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
+        found_->clear();
+        setWindowTitle(PageOf(page.path()).title + QStringLiteral(" - ") + ToQt(kProductName));
+    });
     resize(kSize);
+}
+
+void HelpWindow::AddTools() {
     auto* tools = new QToolBar;
+    layout()->addWidget(tools);
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools->setIconSize(QSize(16, 16));
     QAction* contents = tools->addAction(SmallIcon(QStringLiteral("help")), tr("Contents"));
     QAction* back = tools->addAction(SmallIcon(QStringLiteral("undo")), tr("Back"));
     QAction* forward = tools->addAction(SmallIcon(QStringLiteral("redo")), tr("Forward"));
-    find_->setPlaceholderText(tr("Find in page"));
-    find_->setAccessibleName(find_->placeholderText());
-    find_->setClearButtonEnabled(true);
-    tools->addSeparator();
-    tools->addWidget(find_);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
-    all->addWidget(tools);
-    all->addWidget(browser_);
-
     back->setShortcut(QKeySequence::Back);
     forward->setShortcut(QKeySequence::Forward);
     back->setEnabled(false);
@@ -76,45 +53,77 @@ HelpWindow::HelpWindow(QWidget* parent)
     connect(contents, &QAction::triggered, this, [this] { ShowPage(PageNameOf(0)); });
     connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
     connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
-    browser_->setOpenLinks(false);
-    connect(browser_, &QTextBrowser::anchorClicked, this,
-            [this](const QUrl& link) { Open(PageOfLink(link)); });
-    connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
-        browser_->document()->setDocumentMargin(kMargin);
-        setWindowTitle(PageOf(source.path()).title + QStringLiteral(" - ") + ToQt(kProductName));
-    });
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    connect(find_, &QLineEdit::returnPressed, this, [this] { Find(false); });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, find_,
-            [this] { find_->setFocus(); });
-    connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this,
-            [this] { Find(false); });
-    connect(new QShortcut(QKeySequence::FindPrevious, this), &QShortcut::activated, this,
-            [this] { Find(true); });
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+
+    find_->setPlaceholderText(tr("Find in page"));
+    find_->setAccessibleName(find_->placeholderText());
+    find_->setClearButtonEnabled(true);
+    find_->setMaximumWidth(kFindWidth);
+    found_->setContentsMargins(8, 0, 8, 0);
+    tools->addSeparator();
+    tools->addWidget(find_);
+    tools->addWidget(found_);
+    connect(find_, &QLineEdit::textChanged, this, [this] { Find(From::Here); });
+    connect(find_, &QLineEdit::returnPressed, this, [this] { Find(From::Next); });
+    const auto onKey = [this](const QKeySequence& key, auto act) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+    };
+    onKey(QKeySequence::Find, [this] {
+        find_->setFocus();
+        find_->selectAll();
+    });
+    onKey(Qt::Key_F3, [this] { Find(From::Next); });
+    onKey(Qt::SHIFT | Qt::Key_F3, [this] { Find(From::Previous); });
+    onKey(Qt::Key_Escape, [this] { close(); });
 }
 
 void HelpWindow::ShowPage(const QString& name) {
-    Open(name);
+    browser_->Show(name);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
     browser_->setFocus();
 }
 
-void HelpWindow::Open(const QString& page) {
-    if (!PageOf(page).html.isEmpty()) {
-        browser_->setSource(UrlOf(page), QTextDocument::HtmlResource);
-    }
+void HelpWindow::showEvent(QShowEvent* event) {
+    if (!event->spontaneous() && !testAttribute(Qt::WA_Moved) && !place_.Restore()) OpenBeside();
+    QWidget::showEvent(event);
 }
 
-void HelpWindow::Find(bool backward) {
-    const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    if (find_->text().isEmpty() || browser_->find(find_->text(), flags)) return;
-    // Once more around, from the other end.
-    browser_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
-    browser_->find(find_->text(), flags);
+void HelpWindow::OpenBeside() {
+    QRect table(QPoint(), table_.sizeHint().boundedTo(table_.size()));
+    table.moveLeft((table_.width() - table.width()) / 2);
+    table.moveTopLeft(table_.mapToGlobal(table.topLeft()));
+    const QRect available = table_.screen()->availableGeometry();
+    const QRect place = PlaceBeside(available, table, size() + QSize(0, kFrame));
+    setGeometry(place.adjusted(0, kFrame, 0, 0));
+}
+
+void HelpWindow::Find(From from) {
+    const QString text = find_->text();
+    found_->clear();
+    QTextCursor cursor = browser_->textCursor();
+    if (from == From::Here) cursor.setPosition(cursor.selectionStart());
+    const auto flags =
+        from == From::Previous ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    const QTextDocument& page = *browser_->document();
+    QTextCursor match;
+    if (!text.isEmpty()) {
+        match = page.find(text, cursor, flags);
+        if (match.isNull()) {
+            // Once more around, from the other end.
+            cursor.movePosition(from == From::Previous ? QTextCursor::End : QTextCursor::Start);
+            match = page.find(text, cursor, flags);
+        }
+        if (match.isNull()) found_->setText(tr("Not on this page"));
+    }
+    if (match.isNull()) {
+        match = cursor;
+        match.clearSelection();
+    }
+    browser_->setTextCursor(match);
 }
 
 }  // namespace varnello

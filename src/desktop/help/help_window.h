@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QAction>
+#include <QLabel>
 #include <QLineEdit>
-#include <QTextBrowser>
 #include <QWidget>
+
+#include "desktop/help/page_browser.h"
+#include "desktop/platform/window_place.h"
 
 namespace varnello {
 
@@ -12,20 +14,33 @@ class HelpWindow : public QWidget {
     Q_OBJECT
 
 public:
-    explicit HelpWindow(QWidget* parent);
+    /// The window first opens where it covers least of the table, which stands in the middle of
+    /// `table` at the size of its hint; later where it was left.
+    HelpWindow(SettingsStore& store, const QWidget& table);
 
     /// Shows a page by its name and comes to the front.
     void ShowPage(const QString& name);
 
     QTextBrowser* browser() const { return browser_; }
     QLineEdit* find() const { return find_; }
+    /// What is said about the search.
+    QString Found() const { return found_->text(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
-    void Open(const QString& page);
-    void Find(bool backward);
+    void AddTools();
+    void OpenBeside();
+    /// Looks for the text from where it was last found, `from` further on, back, or there as well.
+    enum class From { Here, Next, Previous };
+    void Find(From from);
 
-    QTextBrowser* browser_;
+    const QWidget& table_;
+    PageBrowser* browser_;
     QLineEdit* find_;
+    QLabel* found_;
+    WindowPlace place_;
 };
 
 }  // namespace varnello

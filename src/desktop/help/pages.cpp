@@ -38,18 +38,29 @@ QString GamePage(const GameRow& row) {
                         QStringLiteral("<h2>Rules</h2>%1<h2>Hints</h2>").arg(Facts(row)));
 }
 
-QString Contents() {
-    QString html = Prose(QStringLiteral("contents")) + QStringLiteral("<h2>The games</h2><ul>");
+/// The other pages in a column, and beside it all games with their previews.
+QString Contents(int columns) {
+    QString grid;
+    int place = 0;
     for (const GameRow& row : kCatalogue) {
-        html += QStringLiteral("<li><a href=\"game:%1\">%1</a></li>").arg(ToQt(row.Name));
+        if (place % columns == 0) grid += place == 0 ? "<tr>" : "</tr><tr>";
+        grid += QStringLiteral(
+                    "<td><a href=\"game:%1\"><img src=\"small:%1\"></a><br>"
+                    "<a href=\"game:%1\">%1</a></td>")
+                    .arg(ToQt(row.Name));
+        ++place;
     }
-    return html + QStringLiteral("</ul>");
+    return QStringLiteral(
+               "<table cellspacing='0'><tr><td width='%1' style='padding-right: %3px'>%2</td><td>"
+               "<table cellspacing='0' cellpadding='%3'>%4</tr></table></td></tr></table>")
+        .arg(QString::number(kContentsColumn), Prose(QStringLiteral("contents")),
+             QString::number(kGridGap / 2), grid);
 }
 
 }  // namespace
 
-HelpPage PageOf(const QString& name) {
-    if (name == QStringLiteral("contents")) return {QStringLiteral("Contents"), Contents()};
+HelpPage PageOf(const QString& name, int columns) {
+    if (name == QStringLiteral("contents")) return {QStringLiteral("Contents"), Contents(columns)};
     if (name == QStringLiteral("playing")) return {QStringLiteral("How to play"), Prose(name)};
     if (name == QStringLiteral("words")) return {QStringLiteral("Words of patience"), Prose(name)};
     if (!name.startsWith(kGamePrefix)) return {};

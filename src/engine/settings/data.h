@@ -62,6 +62,8 @@ public:
     cData(SettingsStore& store, SoundPlayer& sounds, std::filesystem::path appDir);
 
     const std::filesystem::path& AppDir() const { return appDir_; }
+    /// For what a desktop remembers beside the program's own settings.
+    SettingsStore& Store() { return store_; }
 
     // Settings. A stored text that isn't a 16-bit number counts as the default.
     std::int16_t Get(const NumberKey& key) const;
