@@ -69,13 +69,13 @@ const Offsets& Below() {
 void DrawMark(QPainter& painter, const CardShape& shape, Artwork& artwork, const QString& file,
               const QString& element, const QRect& place, const Offsets& contourAt,
               int strength = markStrength) {
-    const auto stamp = [&](QPainter& inner, QPoint by) {
-        artwork.DrawTinted(inner, file, element, place.translated(by), Qt::black);
-    };
+    const QImage mark = PaintImage(shape.size, [&](QPainter& inner) {
+        artwork.DrawTinted(inner, file, element, place, Qt::black);
+    });
     const QImage contour = PaintImage(shape.size, [&](QPainter& inner) {
-        for (const QPoint offset : contourAt) stamp(inner, offset * shape.line);
+        for (const QPoint offset : contourAt) inner.drawImage(offset * shape.line, mark);
         inner.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        stamp(inner, {});
+        inner.drawImage(0, 0, mark);
     });
     painter.setOpacity(contourStrength / 255.0);
     painter.drawImage(0, 0, contour);

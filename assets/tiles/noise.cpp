@@ -14,32 +14,6 @@ double Chance(std::uint64_t seed, std::uint64_t index) {
     return static_cast<double>(bits >> 11) * 0x1p-53;
 }
 
-double Wrap(double value, double period) { return value - period * std::floor(value / period); }
-
-int Floor(double value) {
-    const int whole = static_cast<int>(value);
-    return value < whole ? whole - 1 : whole;
-}
-
-std::size_t TableIndex(int column, int row, int columns) {
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
-           static_cast<std::size_t>(column);
-}
-
-int WrapIndex(int value, int period) {
-    const int rest = value % period;
-    return rest < 0 ? rest + period : rest;
-}
-
-double ShortWay(double distance, double period) {
-    return distance - period * std::round(distance / period);
-}
-
-double Step(double from, double to, double value) {
-    const double share = std::clamp((value - from) / (to - from), 0.0, 1.0);
-    return share * share * (3 - 2 * share);
-}
-
 Field::Field(QSize period, double width, double height, int octaves, std::uint64_t seed)
     : period_(period) {
     double strength = 1;

@@ -16,6 +16,7 @@ struct Fibre {
     double across, down;  // its direction
     double half;          // half its length
     double bend;
+    double reach;  // it lies within so many pixels of its middle, each way
 };
 
 // One fibre in each square of a grid, so that they do not heap up.
@@ -30,7 +31,8 @@ std::vector<Fibre> Fibres(QSize size, int squares, double longest, unsigned seed
             const double half = longest / 2 * (0.35 + 0.65 * chance(3));
             fibres.push_back({(column + chance(0)) * size.width() / squares,
                               (row + chance(1)) * size.height() / squares, std::cos(angle),
-                              std::sin(angle), half, (chance(4) - 0.5) * 1.1 / half});
+                              std::sin(angle), half, (chance(4) - 0.5) * 1.1 / half,
+                              1.3 * half + 2});
         }
     }
     return fibres;
@@ -40,8 +42,10 @@ std::vector<Fibre> Fibres(QSize size, int squares, double longest, unsigned seed
 double Cover(const std::vector<Fibre>& fibres, QSize size, double width, double x, double y) {
     double cover = 0;
     for (const Fibre& fibre : fibres) {
-        const double right = ShortWay(x - fibre.x, size.width());
         const double down = ShortWay(y - fibre.y, size.height());
+        if (std::abs(down) > fibre.reach) continue;
+        const double right = ShortWay(x - fibre.x, size.width());
+        if (std::abs(right) > fibre.reach) continue;
         const double along = right * fibre.across + down * fibre.down;
         if (std::abs(along) > fibre.half) continue;
         const double aside = down * fibre.across - right * fibre.down - fibre.bend * along * along;
