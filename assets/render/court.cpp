@@ -11,8 +11,9 @@ namespace {
 // Below this ratio the fine strokes of a figure would only dirty its colours.
 constexpr double detailRatio = 1.5;
 
-// The frame of one half in device pixels. Its upper left corner steps back for rank and suit mark, so
-// far down that the step stays hidden while another card covers all but the strip with the index.
+// The frame of one half in device pixels. Its upper left corner steps back for rank and suit mark,
+// so far down that the step stays hidden while another card covers all but the strip with the
+// index.
 struct Frame {
     explicit Frame(const CardShape& shape)
         : left(shape.Px(15)),

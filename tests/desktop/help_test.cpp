@@ -77,7 +77,7 @@ private Q_SLOTS:
 
     void FindsWhileOneTypes() {
         WindowFixture fixture;
-        fixture.window.menu().mHelp(1)->trigger();
+        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
         HelpWindow* help = Help();
         QVERIFY(QTest::qWaitForWindowActive(help));
         const auto at = [&] { return help->browser()->textCursor().selectionStart(); };
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void TheGridFollowsTheWidth() {
         WindowFixture fixture;
-        fixture.window.menu().mHelp(1)->trigger();
+        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
         HelpWindow* help = Help();
         for (const int columns : {1, 2, 4}) {
             help->resize(210 + columns * 170, 600);

@@ -79,9 +79,11 @@ void DrawWeave(QPainter& painter, const QRectF& area) {
         const bool across = (row + column) % 2 == 0;
         const QRectF cell(0, 0, cellX, cellY);
         painter.setBrush(across ? dark : light);  // what passes under shows at the edges
-        painter.drawRect(across ? cell.adjusted(slit, 0, -slit, 0) : cell.adjusted(0, slit, 0, -slit));
+        painter.drawRect(across ? cell.adjusted(slit, 0, -slit, 0)
+                                : cell.adjusted(0, slit, 0, -slit));
         painter.setBrush(gap);
-        painter.drawRect(across ? cell.adjusted(0, slit, 0, -slit) : cell.adjusted(slit, 0, -slit, 0));
+        painter.drawRect(across ? cell.adjusted(0, slit, 0, -slit)
+                                : cell.adjusted(slit, 0, -slit, 0));
         painter.setBrush(across ? light : dark);
         painter.drawRect(across ? cell.adjusted(0, 2 * slit, 0, -2 * slit)
                                 : cell.adjusted(2 * slit, 0, -2 * slit, 0));

@@ -112,9 +112,13 @@ void DrawNightHills(QPainter& painter, const QRectF& area) {
     near.lineTo(40, 4);
     painter.setBrush(night);
     painter.drawPath(near);
-    for (const auto& [x, height] :
-         {std::pair{-29.0, 9.0}, {-23.5, 7.0}, {-8.0, 8.0}, {-2.5, 10.5}, {3.0, 7.5}, {21.0, 8.5},
-          {27.0, 11.0}}) {
+    for (const auto& [x, height] : {std::pair{-29.0, 9.0},
+                                    {-23.5, 7.0},
+                                    {-8.0, 8.0},
+                                    {-2.5, 10.5},
+                                    {3.0, 7.5},
+                                    {21.0, 8.5},
+                                    {27.0, 11.0}}) {
         const double foot = slope(x) + 1.5;
         QPainterPath fir(QPointF(x, foot - height));
         for (const double tier : {0.45, 0.75, 1.0}) {

@@ -36,15 +36,19 @@ void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>&
     }
 }
 
-/// Draws the icons of a group when it opens for the first time.
-void DrawIconsWhenOpened(QTreeWidget* tree, const std::function<QIcon(int)>& iconOf) {
-    QObject::connect(tree, &QTreeWidget::itemExpanded, tree, [iconOf](QTreeWidgetItem* group) {
+/// Draws the icons of the groups that are open, and of others when they open.
+void DrawIconsOfOpenGroups(QTreeWidget* tree, const std::function<QIcon(int)>& iconOf) {
+    const auto draw = [iconOf](const QTreeWidgetItem* group) {
         for (int i = 0; i < group->childCount(); ++i) {
             QTreeWidgetItem* item = group->child(i);
             const QVariant tag = item->data(0, kTag);
             if (tag.isValid() && item->icon(0).isNull()) item->setIcon(0, iconOf(tag.toInt()));
         }
-    });
+    };
+    QObject::connect(tree, &QTreeWidget::itemExpanded, tree, draw);
+    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+        if ((*item)->isExpanded()) draw(*item);
+    }
 }
 
 QVariant TagOf(const QTreeWidgetItem* item) { return item ? item->data(0, kTag) : QVariant(); }
@@ -85,7 +89,6 @@ QWidget* CustomizeDialog::MakeBackground() {
 
 void CustomizeDialog::FillBackgrounds() {
     QTreeWidgetItem* root = Root(tvBGround_, QStringLiteral("Backgrounds"));
-    DrawIconsWhenOpened(tvBGround_, [this](int id) { return IconOfBackground(id); });
     auto* colors = new QTreeWidgetItem(root, {QStringLiteral("Colors")});
     customItem_ = AddItem(tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground,
                           background_.bgIndex);
@@ -93,6 +96,7 @@ void CustomizeDialog::FillBackgrounds() {
         AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
     }
     AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
+    DrawIconsOfOpenGroups(tvBGround_, [this](int id) { return IconOfBackground(id); });
 }
 
 QIcon CustomizeDialog::IconOfBackground(int bgIndex) const {
@@ -132,8 +136,8 @@ QWidget* CustomizeDialog::MakeDecks() {
 
 void CustomizeDialog::FillDecks() {
     QTreeWidgetItem* root = Root(tvDeck_, QStringLiteral("Decks"));
-    DrawIconsWhenOpened(tvDeck_, DeckIcon);
     AddGroups(tvDeck_, root, DeckGroups(), deck_);
+    DrawIconsOfOpenGroups(tvDeck_, DeckIcon);
 }
 
 void CustomizeDialog::ChooseDeck() {

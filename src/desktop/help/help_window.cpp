@@ -2,6 +2,7 @@
 
 #include <QScreen>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QToolBar>
 #include <QVBoxLayout>
 

@@ -1,5 +1,6 @@
 #include "desktop/help/page_browser.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -80,7 +81,7 @@ void PageBrowser::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() != QEvent::PaletteChange) return;
     FollowPalette();
-    reload();
+    if (!Page().isEmpty()) reload();
 }
 
 void PageBrowser::FollowPalette() {

@@ -260,7 +260,7 @@ void MainWindow::ShowHelp() {
 
 void MainWindow::ShowRules(const std::string& game) {
     if (!help_) {
-        help_ = new HelpWindow(engine_->data.Store(), *table_);
+        help_ = new HelpWindow(engine_->data().Store(), *table_);
         connect(this, &QObject::destroyed, help_, &QObject::deleteLater);
     }
     help_->ShowPage(PageNameOf(engine_->data().GetGameID(game)));
