@@ -32,10 +32,15 @@ void SetBG(QImage& surface, double ratio, const BackgroundChoice& choice) {
     FadeFill(surface, ColourOf(choice), choice.fade);
 }
 
+QImage TilePicture(double ratio, const BackgroundChoice& choice) {
+    if (choice.bgIndex >= kCustomBackground) return {};
+    const tiles::Tile* found = tiles::FindTile(choice.bgIndex);
+    return found ? tiles::Paint(*found, ratio) : QImage();
+}
+
 bool TileFill(QImage& surface, double ratio, int id) {
-    const tiles::Tile* found = tiles::FindTile(id);
-    if (!found) return false;
-    const QImage tile = tiles::Paint(*found, ratio);
+    const QImage tile = TilePicture(ratio, {.bgIndex = id});
+    if (tile.isNull()) return false;
     QPainter painter(&surface);
     for (int y = 0; y < surface.height(); y += tile.height()) {
         for (int x = 0; x < surface.width(); x += tile.width()) painter.drawImage(x, y, tile);

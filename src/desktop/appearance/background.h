@@ -19,6 +19,9 @@ BackgroundChoice StoredBackground(const cData& data);
 /// the custom colour, above it a named colour. A number that names none paints the default one.
 void SetBG(QImage& surface, double ratio, const BackgroundChoice& choice);
 
+/// The tile of a background, at this device pixel ratio; a null picture for one without tiles.
+QImage TilePicture(double ratio, const BackgroundChoice& choice);
+
 /// Paints tiles from the top left corner on, row by row; the last ones are cut by the edge. False,
 /// with nothing painted, for a number that names no tile.
 bool TileFill(QImage& surface, double ratio, int id);

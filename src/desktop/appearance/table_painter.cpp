@@ -26,8 +26,18 @@ QImage BackgroundPicture(double ratio, const BackgroundChoice& choice) {
     return picture;
 }
 
+PicID CardAtPixel(const Table& table, const CardPictures& pictures, const QPoint& pixel) {
+    PicID found = kNoCard;
+    for (PicID id = 0; id < kCardObjects; ++id) {
+        const KesCard& card = table.Card(id);
+        if (!card.Visible || (found != kNoCard && card.Height < table.Card(found).Height)) continue;
+        if (RectOnTable(pictures, card.Left, card.Top).contains(pixel)) found = id;
+    }
+    return found;
+}
+
 void PaintTable(QPainter& painter, const Table& table, const CardPictures& pictures, int deckIndex,
-                const QRect& clip) {
+                const QRect& clip, PicID lowest, const std::function<void()>& lift) {
     ForEachSlot(table, [&](const char*, int, const KesEmpty& slot) {
         const QRect at = RectOnTable(pictures, slot.Left, slot.Top);
         if (slot.Visible && at.intersects(clip)) {
@@ -35,6 +45,7 @@ void PaintTable(QPainter& painter, const Table& table, const CardPictures& pictu
         }
     });
     for (const PicID id : table.VisibleCards()) {
+        if (id == lowest) lift();
         const KesCard& card = table.Card(id);
         const QRect at = RectOnTable(pictures, card.Left, card.Top);
         if (at.intersects(clip)) PaintPart(painter, at, pictures.Shown(card, deckIndex));

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRect>
+#include <functional>
 
 #include "desktop/appearance/background.h"
 #include "desktop/appearance/pictures.h"
@@ -22,9 +23,14 @@ QRect RectOnTable(const CardPictures& pictures, double leftTwips, double topTwip
 /// The table's background at a device pixel ratio.
 QImage BackgroundPicture(double ratio, const BackgroundChoice& choice);
 
+/// The frontmost visible card whose picture covers a device pixel of the table, or `kNoCard`: what
+/// is hit is what is drawn.
+PicID CardAtPixel(const Table& table, const CardPictures& pictures, const QPoint& pixel);
+
 /// Paints the visible slots and then the visible cards from back to front, in device pixels with
-/// the table's corner at the origin. What lies outside `clip` is left out.
+/// the table's corner at the origin. What lies outside `clip` is left out. `lift` is called before
+/// the card `lowest`, above which all others are in a person's hand.
 void PaintTable(QPainter& painter, const Table& table, const CardPictures& pictures, int deckIndex,
-                const QRect& clip);
+                const QRect& clip, PicID lowest = kNoCard, const std::function<void()>& lift = {});
 
 }  // namespace varnello

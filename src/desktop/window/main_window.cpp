@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QShortcut>
 
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
@@ -53,12 +54,24 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
     move(screen()->availableGeometry().center() - rect().center());
     StartTimers();
+    AddZoomKeys();
     QApplication::instance()->installEventFilter(this);
 }
 
 MainWindow::~MainWindow() {
     QApplication::instance()->removeEventFilter(this);
     delete table_;  // before what it shows
+}
+
+void MainWindow::AddZoomKeys() {
+    const std::pair<QKeyCombination, int> keys[] = {{Qt::CTRL | Qt::Key_Plus, 1},
+                                                    {Qt::CTRL | Qt::Key_Equal, 1},
+                                                    {Qt::CTRL | Qt::Key_Minus, -1},
+                                                    {Qt::CTRL | Qt::Key_0, 0}};
+    for (const auto& [key, direction] : keys) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this, direction = direction] { table_->ZoomBy(direction); });
+    }
 }
 
 void MainWindow::StartTimers() {
@@ -174,8 +187,19 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (widget && widget->isWindow() && widget->windowType() != Qt::ToolTip) {
         table_->CancelGesture();
     }
+    if (event->type() == QEvent::KeyPress && table_->Carrying() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        table_->CancelGesture();
+        return true;
+    }
     if ((motion_.Showing() || breath_.isActive()) && FilterInput(watched, event)) return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // The window may have been made larger or smaller while it was minimised.
+    if (event->type() == QEvent::WindowStateChange && table_) LayoutMain();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -63,6 +63,7 @@ Q_SIGNALS:
     void Closed();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -121,6 +122,8 @@ private:
     /// One step of a replay, once the last one has been shown.
     void ReplayTick(void (Replay::*tick)());
     void StartTimers();
+    /// Ctrl with plus, equals, minus and 0.
+    void AddZoomKeys();
 
     LocaleDates dates_;
     SystemDisk disk_;

@@ -21,7 +21,7 @@ bool Gestures::HitCard(PicID id, const Place& place, bool wide) const {
     return centreX > left && centreX < right && centreY > top && centreY < bottom;
 }
 
-bool Gestures::DropOnTableau(PicID id, bool wide) {
+std::optional<Place> Gestures::TargetOnTableau(PicID id, bool wide) const {
     const cGames& games = field_.games;
     const KesCard& card = field_.table.Card(id);
     for (int pile = 0; pile < games.Piles(Cell::Home); ++pile) {
@@ -34,30 +34,24 @@ bool Gestures::DropOnTableau(PicID id, bool wide) {
             accepted = FitsOrder(field_.table.Card(field_.array.GetTopPicID(Cell::Home, pile)),
                                  card, games.Order(Cell::Home, 0), games.AK(Cell::Home));
         }
-        if (!accepted) continue;
-        field_.array.MoveCard(
-            {.PicId = id, .To = {Cell::Home, pile, top + 1}, .Speed = 3, .mCards = dragCount_});
-        return true;
+        if (accepted) return Place{Cell::Home, pile, top + 1};
     }
-    return false;
+    return std::nullopt;
 }
 
-bool Gestures::DropOnReserve(PicID id, bool wide) {
-    if (dragCount_ != 0) return false;
+std::optional<Place> Gestures::TargetOnReserve(PicID id, bool wide) const {
+    if (dragCount_ != 0) return std::nullopt;
     for (int pile = 0; pile < field_.games.Piles(Cell::Res); ++pile) {
         const Place place{Cell::Res, pile, 0};
-        if (field_.array.GetPicID(Cell::Res, pile, 0) != kNoCard || !HitCard(id, place, wide)) {
-            continue;
-        }
-        field_.array.MoveCard({.PicId = id, .To = place, .Speed = 3});
-        return true;
+        const bool free = field_.array.GetPicID(Cell::Res, pile, 0) == kNoCard;
+        if (free && HitCard(id, place, wide)) return place;
     }
-    return false;
+    return std::nullopt;
 }
 
-bool Gestures::DropOnFoundation(PicID id, bool wide) {
+std::optional<Place> Gestures::TargetOnFoundation(PicID id, bool wide) const {
     const cGames& games = field_.games;
-    if (games.Tag() == Tag::Spider || dragCount_ != 0) return false;
+    if (games.Tag() == Tag::Spider || dragCount_ != 0) return std::nullopt;
     const KesCard& card = field_.table.Card(id);
     for (int pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
         if (!HitCard(id, {Cell::Goal, pile, 0}, wide)) continue;
@@ -69,20 +63,24 @@ bool Gestures::DropOnFoundation(PicID id, bool wide) {
             accepted = FitsOrder(field_.table.Card(field_.array.GetTopPicID(Cell::Goal, pile)),
                                  card, games.Order(Cell::Goal, pile), games.AK(Cell::Goal));
         }
-        if (!accepted) continue;
-        field_.array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, top + 1}, .Speed = 3});
-        return true;
+        if (accepted) return Place{Cell::Goal, pile, top + 1};
     }
-    return false;
+    return std::nullopt;
+}
+
+std::optional<Place> Gestures::Target(PicID id) const {
+    for (const bool wide : {false, true}) {
+        if (const auto place = TargetOnTableau(id, wide)) return place;
+        if (const auto place = TargetOnReserve(id, wide)) return place;
+        if (const auto place = TargetOnFoundation(id, wide)) return place;
+    }
+    return std::nullopt;
 }
 
 void Gestures::CardDrop(PicID id) {
-    for (const bool wide : {false, true}) {
-        if (DropOnTableau(id, wide) || DropOnReserve(id, wide) || DropOnFoundation(id, wide)) {
-            return;
-        }
-    }
-    CardBack(id);
+    const auto place = Target(id);
+    if (!place) return CardBack(id);
+    field_.array.MoveCard({.PicId = id, .To = *place, .Speed = 3, .mCards = dragCount_});
 }
 
 }  // namespace varnello

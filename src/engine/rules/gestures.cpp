@@ -55,6 +55,11 @@ void Gestures::StockClick() {
     if (field_.data.Playing() && field_.games.StockNum() == StockNum::Redeal) Redeal(field_);
 }
 
+bool Gestures::RedealPossible() const {
+    return field_.data.Playing() && field_.games.StockNum() == StockNum::Redeal &&
+           field_.array.GetTop(Cell::Waste, 0) >= 0;
+}
+
 bool Gestures::StillHeld(PicID id) const {
     const Place& at = field_.table.Card(id).Loc;
     if (at != heldAt_) return false;
@@ -81,43 +86,58 @@ bool Gestures::IsTopCard(PicID id) const {
     return at.Pos == field_.array.GetTop(at.Cell, at.Pile);
 }
 
-void Gestures::CardDown(PicID id) {
+int Gestures::CardsAbove(PicID id) const {
+    const Place& at = field_.table.Card(id).Loc;
+    return field_.array.GetTop(at.Cell, at.Pile) - at.Pos;
+}
+
+bool Gestures::CanLiftStack(PicID id) const {
+    if (field_.table.Card(id).FaceMode == FaceMode::Closed || !field_.games.MultiMove()) {
+        return false;
+    }
+    const int above = CardsAbove(id);
+    if (!IsRun(field_, id, above)) return false;
+    return !HasStackLimit(field_.games.Tag()) || above <= MaxExtraCards(field_);
+}
+
+Grip Gestures::GripOf(PicID id) const {
+    if (!field_.data.Playing()) return Grip::None;
+    const auto lift = [](bool possible) { return possible ? Grip::Lift : Grip::None; };
     switch (field_.table.Card(id).Loc.Cell) {
-        case Cell::Home:
-            if (IsTopCard(id)) {
-                dragging_ = true;
-            } else {
-                PickUpStack(id);
-            }
-            break;
+        case Cell::Home: return lift(IsTopCard(id) || CanLiftStack(id));
         case Cell::Stock:
-            if (IsTopCard(id)) PressStockCard(id);
-            break;
+            if (!IsTopCard(id)) return Grip::None;
+            return field_.games.StockType() == StockType::Open ? Grip::Lift : Grip::Deal;
         case Cell::Waste:
-        case Cell::Goal: dragging_ = IsTopCard(id); break;
-        case Cell::Res: dragging_ = true; break;
+        case Cell::Goal: return lift(IsTopCard(id));
+        case Cell::Res: break;
+    }
+    return Grip::Lift;
+}
+
+void Gestures::CardDown(PicID id) {
+    switch (GripOf(id)) {
+        case Grip::None: break;
+        case Grip::Deal: PressStockCard(id); break;
+        case Grip::Lift:
+            dragging_ = true;
+            if (field_.table.Card(id).Loc.Cell == Cell::Home) LiftStack(id);
+            break;
     }
 }
 
-void Gestures::PickUpStack(PicID id) {
-    const KesCard& card = field_.table.Card(id);
-    const int top = field_.array.GetTop(Cell::Home, card.Loc.Pile);
-    dragCount_ = top - card.Loc.Pos;
-    if (card.FaceMode == FaceMode::Closed || !field_.games.MultiMove()) return;
-    if (!IsRun(field_, id, dragCount_)) return;
-    if (HasStackLimit(field_.games.Tag()) && dragCount_ > MaxExtraCards(field_)) return;
-    dragging_ = true;
+void Gestures::LiftStack(PicID id) {
+    const Place& at = field_.table.Card(id).Loc;
+    dragCount_ = CardsAbove(id);
     for (int i = 1; i <= dragCount_; ++i) {
-        const PicID carried = field_.array.GetPicID(Cell::Home, card.Loc.Pile, card.Loc.Pos + i);
+        const PicID carried = field_.array.GetPicID(Cell::Home, at.Pile, at.Pos + i);
         field_.table.BringToFront(carried);
         field_.array.ShowCard(carried);
     }
 }
 
 void Gestures::PressStockCard(PicID id) {
-    if (field_.games.StockType() == StockType::Open) {
-        dragging_ = true;
-    } else if (field_.games.StockMove() == StockMove::Row) {
+    if (field_.games.StockMove() == StockMove::Row) {
         DealRow(field_);
     } else {
         field_.array.AddtoWaste(id);

@@ -1,10 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "engine/rules/playfield.h"
 
 namespace varnello {
+
+/// What a press on a card does.
+enum class Grip {
+    None,
+    Lift,  ///< it can be taken up, with what lies on it
+    Deal   ///< the stock deals or turns it
+};
 
 /// Play by hand: press on a card, drag it, let go. Any button, no threshold. All positions are
 /// twips, those of the mouse relative to the card, which moves along with it.
@@ -21,6 +29,15 @@ public:
     void StockClick();
 
     bool Dragging() const { return dragging_; }
+    /// Cards carried above the one taken.
+    int Carried() const { return dragCount_; }
+    /// What a press would do now.
+    Grip GripOf(PicID id) const;
+    /// Whether a click on the stock's slot would turn the waste back.
+    bool RedealPossible() const;
+    /// Where the cards in the hand would lie if they were let go now; nothing when they would go
+    /// back.
+    std::optional<Place> Target(PicID id) const;
     /// A drag ends with its game.
     void Reset();
 
@@ -40,15 +57,17 @@ private:
     bool StillHeld(PicID id) const;
     /// Puts what the board holds from this card up where it belongs.
     void Settle(PicID id);
-    void PickUpStack(PicID id);
+    int CardsAbove(PicID id) const;
+    bool CanLiftStack(PicID id) const;
+    void LiftStack(PicID id);
     void PressStockCard(PicID id);
     bool IsTopCard(PicID id) const;
     void PutAt(PicID id, double left, double top, bool bringToFront);
     void MoveCarried(PicID id, int left, int top, bool bringToFront);
     bool HitCard(PicID id, const Place& place, bool wide) const;
-    bool DropOnTableau(PicID id, bool wide);
-    bool DropOnReserve(PicID id, bool wide);
-    bool DropOnFoundation(PicID id, bool wide);
+    std::optional<Place> TargetOnTableau(PicID id, bool wide) const;
+    std::optional<Place> TargetOnReserve(PicID id, bool wide) const;
+    std::optional<Place> TargetOnFoundation(PicID id, bool wide) const;
 
     Playfield field_;
     std::int16_t downX_ = 0;
