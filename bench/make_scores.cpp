@@ -27,7 +27,7 @@ ScoreRecord RandomGame(std::mt19937_64& random, std::int64_t moment) {
     const auto goal = static_cast<std::int32_t>(won ? 520 : draw(0, 30) * 10);
     const bool typed = draw(1, 10) == 1;
     const std::string number = std::to_string(draw(0, typed ? 32000 : 999'999'999'999'999));
-    const auto game = static_cast<std::size_t>(draw(0, kTotalGames - 1));
+    const auto game = static_cast<std::size_t>(draw(0, TotalGames() - 1));
     return {.Date = DateText(FromSecondsSinceEpoch(moment)),
             .Game = std::string(kCatalogue[game].Name),
             .GameNo = typed ? GameNumber::Text(number) : *GameNumber::ParseBare(number),

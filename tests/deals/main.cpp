@@ -6,7 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "layout.h"
+#include "../engine/board_checks.h"
+#include "dealer.h"
 
 // varnello-all-deals: deals every game from each of the 65,536 states that a game number can lead
 // to, checks each deal, and prints a line for each game: a digest of every 16th deal, a digest of
@@ -88,7 +89,8 @@ bool DealAll(const GameRow& row, int step) {
     std::vector<std::uint64_t> digests;
     for (int i = 0; i < kStates; i += step) {
         deal.Deal(kFirstNumber + i);
-        if (const std::string fault = LayoutFault(deal); !fault.empty()) {
+        if (const std::string fault = BoardFault(deal.array, deal.table, deal.games);
+            !fault.empty()) {
             std::fprintf(stderr, "%s, number %.0f: %s\n", name.c_str(), kFirstNumber + i,
                          fault.c_str());
             return false;

@@ -188,7 +188,7 @@ private Q_SLOTS:
 
     void PlaysAtRandom_data() {
         QTest::addColumn<int>("game");
-        for (int game = 0; game < kTotalGames; ++game) {
+        for (int game = 0; game < TotalGames(); ++game) {
             QTest::newRow(kCatalogue[std::size_t(game)].Name.data()) << game;
         }
     }

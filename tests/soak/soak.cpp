@@ -50,7 +50,7 @@ public:
     }
 
     void PlayGame(int number) {
-        const GameRow& row = kCatalogue[static_cast<std::size_t>(number * 8 % kTotalGames)];
+        const GameRow& row = kCatalogue[static_cast<std::size_t>(number * 8 % TotalGames())];
         fixture_.Start(row.Name.data(), Below(65536));
         for (int i = 0; i < kActions && fixture_.engine().data().GameRunning; ++i) Act();
         if (Below(3) == 0)

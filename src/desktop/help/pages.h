@@ -21,7 +21,7 @@ inline constexpr QSize kSmallPreview(kPreviewSize.width() / 2, (kPreviewSize.hei
 inline constexpr int kGridGap = 10;
 inline constexpr int kContentsColumn = 150;  ///< the links beside the grid
 
-/// The page of the game with this id, 1 to 35; the contents for any other number.
+/// The page of the game with this id, from 1 on; the contents for any other number.
 QString PageNameOf(int gameId);
 
 }  // namespace varnello

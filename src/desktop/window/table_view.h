@@ -107,7 +107,7 @@ private:
     QScrollBar* across_;
     QScrollBar* down_;
     std::array<Shown, kCardObjects> shownCards_;
-    std::array<Shown, 18 + 10 + 8 + 1 + 1> shownSlots_;
+    std::array<Shown, kSlots> shownSlots_;
     Hand hand_;
     std::optional<QPointF> pointer_;  ///< on the table, in device pixels
     PicID pressed_ = kNoCard;

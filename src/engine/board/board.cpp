@@ -58,7 +58,7 @@ void cArray::MoveWasteStock() {
 
 int cArray::TotalGoalCards() const {
     int cards = 0;
-    for (int pile = 0; pile < 8; ++pile) cards += GetTop(Cell::Goal, pile) + 1;
+    for (int pile = 0; pile < kGoalSlots; ++pile) cards += GetTop(Cell::Goal, pile) + 1;
     return cards;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 
 #include "engine/board/generator.h"
@@ -47,6 +48,7 @@ public:
     int GetTop(Cell cell, int pile) const { return TopIndex(cell, pile); }
     /// The top card; the pile must not be empty.
     PicID GetTopPicID(Cell cell, int pile) const {
+        assert(GetTop(cell, pile) >= 0);
         return GetPicID(cell, pile, GetTop(cell, pile));
     }
     /// Entries above the top are reliable for reserves only.

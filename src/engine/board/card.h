@@ -3,11 +3,9 @@
 #include <cstdint>
 
 #include "engine/definitions/codes.h"
+#include "engine/definitions/table_size.h"
 
 namespace varnello {
-
-inline constexpr std::int16_t kCardWidth = 1065;   // twips
-inline constexpr std::int16_t kCardHeight = 1440;  // twips
 
 enum class FaceMode : std::int32_t { Open = 0, Closed = 1 };
 

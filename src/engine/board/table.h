@@ -7,9 +7,6 @@
 
 namespace varnello {
 
-inline constexpr int kTableWidth = 15480;   // twips; the table doesn't scale
-inline constexpr int kTableHeight = 11205;  // twips
-
 /// The card and slot objects. They are made once and reused by every game.
 class Table {
 public:
@@ -30,11 +27,11 @@ public:
     void Clear();
 
     std::array<KesCard, kCardObjects> PicCards;
-    std::array<KesEmpty, 18> PicHome;
-    std::array<KesEmpty, 10> PicRes;
-    std::array<KesEmpty, 8> PicRight;
-    std::array<KesEmpty, 1> PicWaste;
-    std::array<KesEmpty, 1> PicStock;
+    std::array<KesEmpty, kHomeSlots> PicHome;
+    std::array<KesEmpty, kResSlots> PicRes;
+    std::array<KesEmpty, kGoalSlots> PicRight;
+    std::array<KesEmpty, kWasteSlots> PicWaste;
+    std::array<KesEmpty, kStockSlots> PicStock;
 
 private:
     std::uint64_t front_ = 0;

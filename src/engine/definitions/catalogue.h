@@ -1,28 +1,16 @@
 #pragma once
 
-#include <array>
-#include <optional>
+#include <span>
 #include <string_view>
 
-#include "engine/definitions/game_record.h"
+#include "engine/definitions/game_row.h"
 
 namespace varnello {
 
-/// One game: its name and the values that `SelectGame` stores.
-struct GameRow {
-    std::string_view Name;
-    ExtDef Ext = {};
-    HomeDef Home = {};
-    GoalDef Goal = {};
-    ResDef Res = {};
-    StockDef Stock = {};
-    std::optional<WasteDef> Waste = std::nullopt;
-};
-
-inline constexpr int kTotalGames = 35;
-
 /// All games in alphabetical order; a game's id is its place here, counted from 1.
-extern const std::array<GameRow, kTotalGames> kCatalogue;
+extern const std::span<const GameRow> kCatalogue;
+
+inline int TotalGames() { return static_cast<int>(kCatalogue.size()); }
 
 /// The row with exactly this name, or nullptr.
 const GameRow* FindGame(std::string_view name);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "engine/common/rounding.h"
@@ -68,6 +69,9 @@ enum class HomeType : std::int32_t {
     ReverseStaircase = 6  // row r covers all piles but the last r
 };
 
+inline constexpr std::array kConeHeights{4, 5, 6, 7, 8, 7, 6, 5, 4};
+inline constexpr int kBySuitCards = 52;
+
 /// What starts a foundation. 0 to 12 is the rank that opens it.
 enum class GoalType : std::int32_t {
     Aces = 0,
@@ -105,12 +109,18 @@ enum class PileOrder : std::int32_t {
 /// Family of rules that aren't parameters.
 enum class Tag : std::int32_t { None, Freecell, FreecellAK, Penguin, Spider, Stala };
 
+/// Whether the count of free places limits the size of a carried group.
+constexpr bool HasStackLimit(Tag tag) {
+    return tag == Tag::Freecell || tag == Tag::FreecellAK || tag == Tag::Penguin;
+}
+
 /// What an empty tableau pile takes, besides a rank from 0 to 12.
 inline constexpr std::int16_t kAnyCard = -1;
 inline constexpr std::int16_t kNoCardAtAll = -10;
 
 inline constexpr std::int16_t kAce = 0;
 inline constexpr std::int16_t kKing = 12;
+inline constexpr int kRanks = 13;  ///< and so the cards of a suit, a whole run, a full foundation
 
 /// Booleans of the records: -1 and 0.
 inline constexpr std::int16_t kTrue = -1;

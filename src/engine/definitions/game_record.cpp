@@ -4,21 +4,7 @@ namespace varnello {
 
 namespace {
 
-/// What the tableau, the foundations and the reserve have in common.
-template <typename PileDef>
-CellDef CellOf(const PileDef& def) {
-    return {.Piles = def.Piles,
-            .Cards = def.Cards,
-            .StartX = def.StartX,
-            .StartY = def.StartY,
-            .PileWidth = def.PileWidth,
-            .PosWidth = def.PosWidth,
-            .Div = def.Div,
-            .DivWidth = def.DivWidth,
-            .PileOrder = def.PileOrder};
-}
-
-/// The same for cells on which cards build.
+/// A cell on which cards build.
 template <typename PileDef>
 CellDef BuildingCellOf(const PileDef& def) {
     CellDef cell = CellOf(def);
@@ -40,21 +26,13 @@ void cGames::Home(const HomeDef& def) {
 }
 
 void cGames::Stock(const StockDef& def) {
-    Def(Cell::Stock) = {
-        .Piles = def.Piles, .StartX = def.StartX, .StartY = def.StartY, .PosWidth = def.PosWidth};
+    Def(Cell::Stock) = CellOf(def);
     stockMove_ = def.StockMove;
     stockNum_ = def.StockNum;
     stockType_ = def.StockType;
 }
 
-void cGames::Waste(const WasteDef& def) {
-    Def(Cell::Waste) = {.Piles = def.Piles,
-                        .Cards = def.Cards,
-                        .StartX = def.StartX,
-                        .StartY = def.StartY,
-                        .PileWidth = def.PileWidth,
-                        .PosWidth = def.PosWidth};
-}
+void cGames::Waste(const WasteDef& def) { Def(Cell::Waste) = CellOf(def); }
 
 void cGames::Goal(const GoalDef& def) {
     Def(Cell::Goal) = BuildingCellOf(def);

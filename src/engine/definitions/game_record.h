@@ -100,9 +100,42 @@ struct CellDef {
     varnello::PileOrder PileOrder = PileOrder::Down;
 };
 
+/// What the tableau, the foundations and the reserve have in common.
+template <typename PileDef>
+constexpr CellDef CellOf(const PileDef& def) {
+    return {.Piles = def.Piles,
+            .Cards = def.Cards,
+            .StartX = def.StartX,
+            .StartY = def.StartY,
+            .PileWidth = def.PileWidth,
+            .PosWidth = def.PosWidth,
+            .Div = def.Div,
+            .DivWidth = def.DivWidth,
+            .PileOrder = def.PileOrder};
+}
+
+constexpr CellDef CellOf(const StockDef& def) {
+    return {
+        .Piles = def.Piles, .StartX = def.StartX, .StartY = def.StartY, .PosWidth = def.PosWidth};
+}
+
+constexpr CellDef CellOf(const WasteDef& def) {
+    return {.Piles = def.Piles,
+            .Cards = def.Cards,
+            .StartX = def.StartX,
+            .StartY = def.StartY,
+            .PileWidth = def.PileWidth,
+            .PosWidth = def.PosWidth};
+}
+
+/// Twips.
+struct TwipPoint {
+    int X, Y;
+};
+
 /// The definition of the game on the table: what makes one game differ from another. Everything
 /// reads it; only `SelectGame` fills it, and the deal sets `EmptyNum` and `GoalBase` in the games
-/// where the cards decide them. Nothing is checked: a definition has to fit its deck.
+/// where the cards decide them. Nothing is checked here: see `FaultOf` in check_row.h.
 class cGames {
 public:
     void Home(const HomeDef& def);
@@ -134,7 +167,7 @@ public:
     std::int16_t TotalCards() const { return ext_.TotalCards; }
     std::int16_t BaseX() const { return ext_.BaseX; }
     std::int16_t BaseY() const { return ext_.BaseY; }
-    bool DisAutoPlay() const { return ext_.DisAutoPlay == kTrue; }
+    bool DisAutoPlay() const { return ext_.DisAutoPlay != 0; }
     std::int16_t CardsOpen() const { return cardsOpen_; }
     varnello::StockNum StockNum() const { return stockNum_; }
     std::int16_t GoalDiv() const { return ext_.GoalDiv; }
@@ -151,13 +184,8 @@ public:
     void GoalBase(std::int16_t value) { goalBase_ = value; }
 
 private:
-    struct Point {
-        int X, Y;
-    };
-
     CellDef& Def(Cell cell) { return cells_[static_cast<std::size_t>(cell)]; }
     const CellDef& Def(Cell cell) const { return cells_[static_cast<std::size_t>(cell)]; }
-    Point CellPos(const Place& place, int closedCards) const;
 
     std::array<CellDef, kCells> cells_{};
     ExtDef ext_{.TotalCards = 0, .Tag = Tag::None};

@@ -5,8 +5,6 @@
 namespace varnello {
 namespace {
 
-constexpr int kRunLength = 13;
-
 /// Plays the top card of each pile from 0 up.
 void PlayTops(const Playfield& field, Cell cell, int piles) {
     for (int pile = 0; pile < piles; ++pile) {
@@ -27,13 +25,13 @@ void PlayCardsUp(const Playfield& field) {
 /// Whether the top 13 cards of a tableau pile run from King to Ace in the foundations' order.
 bool HasCompletedRun(const Playfield& field, int pile) {
     const int top = field.array.GetTop(Cell::Home, pile);
-    if (top < kRunLength - 1) return false;
+    if (top < kRanks - 1) return false;
     const auto card = [&](int pos) -> const KesCard& {
         return field.table.Card(field.array.GetPicID(Cell::Home, pile, pos));
     };
     if (card(top).Num != kAce) return false;
     const OrderCode order = field.games.Order(Cell::Goal, 0);
-    for (int pos = top; pos > top - kRunLength + 1; --pos) {
+    for (int pos = top; pos > top - kRanks + 1; --pos) {
         if (!FitsOrder(card(pos), card(pos - 1), order, false)) return false;
     }
     return true;
@@ -44,7 +42,7 @@ void TakeRunOff(const Playfield& field, int pile) {
     int goal = field.table.Card(array.GetTopPicID(Cell::Home, pile)).Suitpile;
     if (field.games.GoalDiv() != 0) goal %= field.games.GoalDiv();
     const MultiStep step(field);
-    for (int i = 0; i < kRunLength; ++i) {
+    for (int i = 0; i < kRanks; ++i) {
         array.MoveCard({.PicId = array.GetTopPicID(Cell::Home, pile),
                         .To = {Cell::Goal, goal, array.GetTop(Cell::Goal, goal) + 1},
                         .Speed = 3});

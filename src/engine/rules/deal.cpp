@@ -1,7 +1,5 @@
 #include "engine/rules/deal.h"
 
-#include <array>
-
 #include "engine/common/rounding.h"
 
 namespace varnello {
@@ -172,7 +170,7 @@ void DealStaircase(const Playfield& field, bool reverse) {
 }
 
 void DealBySuit(const Playfield& field) {
-    for (int i = 0; i < 52; ++i) {
+    for (int i = 0; i < kBySuitCards; ++i) {
         const PicID top = field.array.GetTopPicID(Cell::Stock, 0);
         const std::int16_t suit = field.table.Card(top).Suit;
         DealTo(field, Cell::Home, suit, field.array.GetTop(Cell::Home, suit) + 1);
@@ -180,9 +178,8 @@ void DealBySuit(const Playfield& field) {
 }
 
 void DealCone(const Playfield& field) {
-    constexpr std::array kHeights{4, 5, 6, 7, 8, 7, 6, 5, 4};
     int pile = 0;
-    for (const int height : kHeights) {
+    for (const int height : kConeHeights) {
         for (int pos = 0; pos < height; ++pos) DealTo(field, Cell::Home, pile, pos);
         ++pile;
     }

@@ -32,8 +32,4 @@ int MaxExtraCards(const Playfield& field) {
     return (freeCells + 1) * emptyPiles + freeCells;
 }
 
-bool HasStackLimit(Tag tag) {
-    return tag == Tag::Freecell || tag == Tag::FreecellAK || tag == Tag::Penguin;
-}
-
 }  // namespace varnello

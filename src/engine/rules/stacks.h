@@ -13,7 +13,4 @@ int EmptyPiles(const Playfield& field, Cell cell);
 /// How many cards may be carried above the one taken, in the families that have a limit.
 int MaxExtraCards(const Playfield& field);
 
-/// Whether the count of free places limits the size of a carried group.
-bool HasStackLimit(Tag tag);
-
 }  // namespace varnello

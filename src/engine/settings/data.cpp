@@ -77,10 +77,11 @@ void cData::CustomColor(std::int32_t color) {
     store_.Write(kDataSection, kCustomColorKey, std::to_string(color));
 }
 
-std::int16_t cData::TotalGames() const { return kTotalGames; }
+std::int16_t cData::TotalGames() const { return static_cast<std::int16_t>(varnello::TotalGames()); }
 
 std::string cData::GetGName(std::int16_t id) const {
-    return std::string(kCatalogue.at(static_cast<std::size_t>(id - 1)).Name);
+    if (id < 1 || id > TotalGames()) return {};
+    return std::string(kCatalogue[static_cast<std::size_t>(id - 1)].Name);
 }
 
 std::int16_t cData::GetGameID(std::string_view name) const {

@@ -78,7 +78,7 @@ public:
     std::int32_t CustomColor() const;
     void CustomColor(std::int32_t color);
 
-    // Game names. Ids count from 1; 0 stands for no game.
+    // Game names. Ids count from 1; 0 stands for no game, and the name of no game is empty.
     std::int16_t TotalGames() const;
     std::string GetGName(std::int16_t id) const;
     std::int16_t GetGameID(std::string_view name) const;
