@@ -23,9 +23,9 @@ QString FileOf(std::string_view game) {
 QString Facts(const GameRow& row) {
     QString html = QStringLiteral("<table cellpadding='4'>");
     for (const GameFact& fact : Describe(row)) {
-        html +=
-            QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
-                .arg(ToQt(fact.Heading).replace(' ', "&nbsp;"), ToQt(fact.Text).toHtmlEscaped());
+        html += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
+                    .arg(ToQt(fact.Heading).replace(' ', "&nbsp;"),
+                         ToQt(fact.English()).toHtmlEscaped());
     }
     return html + QStringLiteral("</table>");
 }
@@ -70,7 +70,7 @@ HelpPage PageOf(const QString& name, int columns) {
 }
 
 QString PageNameOf(int gameId) {
-    if (gameId < 1 || gameId > kTotalGames) return QStringLiteral("contents");
+    if (gameId < 1 || gameId > TotalGames()) return QStringLiteral("contents");
     return kGamePrefix + ToQt(kCatalogue[static_cast<std::size_t>(gameId - 1)].Name);
 }
 

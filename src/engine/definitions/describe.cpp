@@ -1,177 +1,280 @@
 #include "engine/definitions/describe.h"
 
+#include <array>
+
+#include "engine/definitions/check_row.h"
+
+// What `say` has in store is chosen here, by the rules that the engine follows: a test plays what
+// each sentence claims.
 namespace varnello {
 namespace {
 
-std::string Count(int number, const std::string& one, const std::string& many) {
-    std::string text = std::to_string(number);
-    return text.append(" ").append(number == 1 ? one : many);
+using Sentences = std::vector<RuleSentence>;
+
+std::string_view OneOfRank(int rank) {
+    constexpr std::array<std::string_view, kRanks> kWords{
+        "an Ace", "a 2", "a 3",  "a 4",    "a 5",     "a 6",   "a 7",
+        "an 8",   "a 9", "a 10", "a Jack", "a Queen", "a King"};
+    return kWords.at(static_cast<std::size_t>(rank));
 }
 
-std::string Cards(int number) { return Count(number, "card", "cards"); }
+std::string_view Ranks(GoalType type) {
+    switch (type) {
+        case GoalType::Twos: return "2s";
+        case GoalType::Kings: return "Kings";
+        default: break;
+    }
+    return "Aces";
+}
 
-std::string OrderText(OrderCode order) {
+/// In a deck of one suit nobody asks for the suit.
+std::string_view OrderWords(const GameRow& row, OrderCode order) {
+    const bool oneSuit = SuitsOf(row) == 1;
     switch (order) {
-        case OrderCode::DownSuit: return "down in suit";
-        case OrderCode::UpSuit: return "up in suit";
-        case OrderCode::EitherSuit: return "up or down in suit";
+        case OrderCode::DownSuit: return oneSuit ? "down" : "down in suit";
+        case OrderCode::UpSuit: return oneSuit ? "up" : "up in suit";
+        case OrderCode::EitherSuit: return oneSuit ? "up or down" : "up or down in suit";
         case OrderCode::DownColor: return "down in alternating colours";
         case OrderCode::UpColor: return "up in alternating colours";
         case OrderCode::EitherColor: return "up or down in alternating colours";
-        case OrderCode::DownAny: return "down regardless of suit";
-        case OrderCode::UpAny: return "up regardless of suit";
-        case OrderCode::EitherAny: return "up or down regardless of suit";
-        case OrderCode::Anything: return "in any order";
+        case OrderCode::DownAny: return oneSuit ? "down" : "down regardless of suit";
+        case OrderCode::UpAny: return oneSuit ? "up" : "up regardless of suit";
+        case OrderCode::EitherAny: return oneSuit ? "up or down" : "up or down regardless of suit";
+        case OrderCode::Anything:
         case OrderCode::Nothing: break;
     }
-    return "not at all";
+    return "in any order";
 }
 
-std::string Pack(const GameRow& row) {
-    if (row.Ext.TotalCards == 26)
-        return "Half a pack is used: the hearts and the spades, 26 cards.";
-    std::string text = row.Ext.TotalCards == 104 ? "Two packs, 104 cards, are used."
-                                                 : "One pack of 52 cards is used.";
-    if (row.Home.SuitType == SuitType::One) text += " All cards count as one suit.";
-    return text;
+/// How a run lies from King down to Ace, by the order in which it goes up.
+std::string_view RunWords(OrderCode order) {
+    if (order == OrderCode::UpSuit) return "in suit";
+    return order == OrderCode::UpColor ? "in alternating colours" : "regardless of suit";
 }
 
 bool IsSpider(const GameRow& row) { return row.Ext.Tag == Tag::Spider; }
 
-std::string Aim(const GameRow& row) {
-    const std::string all = "Bring all " + std::to_string(row.Ext.TotalCards) + " cards to the ";
-    std::string text = all + Count(row.Goal.Piles, "foundation. ", "foundations. ");
-    if (IsSpider(row)) {
-        text = all + "foundations, in whole runs of thirteen from King down to Ace" +
-               (row.Goal.Order == OrderCode::UpColor ? " in alternating colours. " : " in suit. ");
-    }
-    return text + Pack(row);
+RuleSentence Pack(const GameRow& row) {
+    if (SuitsOf(row) == 1) return {say::kOneSuit, row.Ext.TotalCards};
+    if (row.Ext.TotalCards == 104) return {say::kTwoPacks};
+    if (row.Ext.TotalCards == 52) return {say::kOnePack};
+    return {say::kHalfPack};
 }
 
-std::string Tableau(const GameRow& row) {
-    const std::string piles = Count(row.Home.Piles, "pile", "piles");
+Sentences Aim(const GameRow& row) {
+    const int cards = row.Ext.TotalCards;
+    Sentences aim{{say::kAim, row.Goal.Piles, {cards}}};
+    if (IsSpider(row)) {
+        aim =
+            SuitsOf(row) == 1
+                ? Sentences{{say::kAimRuns, row.Goal.Piles, {cards}}}
+                : Sentences{{say::kAimSuitRuns, row.Goal.Piles, {cards, RunWords(row.Goal.Order)}}};
+    }
+    aim.push_back(Pack(row));
+    if (cards > 26 && SuitsOf(row) == 2) aim.push_back({say::kTwoSuits});
+    return aim;
+}
+
+RuleSentence Tableau(const GameRow& row) {
+    const int piles = row.Home.Piles;
+    const int cards = row.Home.Cards;
+    const int suits = SuitsOf(row);
+    if (cards == 0) return {say::kEmptyTableau, piles};
+    if (cards == 1) return {say::kOneCard, piles};
     switch (row.Home.HomeType) {
-        case HomeType::Staircase:
-            return "The tableau is a staircase of " + piles +
-                   ": one card on the first and one more on each that follows.";
+        case HomeType::Staircase: return {say::kStaircase, piles};
+        case HomeType::ReverseStaircase: return {say::kReverseStaircase, piles, {cards}};
         case HomeType::BySuit:
-            return "Each card is dealt to the pile of its suit: four of the " + piles +
-                   " of the tableau hold one suit each, the others begin empty.";
-        case HomeType::Cone:
-            return "The " + piles + " of the tableau hold 4, 5, 6, 7, 8, 7, 6, 5 and 4 cards.";
+            if (row.Ext.TotalCards != kBySuitCards) return {say::kSomeBySuit, piles, {suits}};
+            if (piles == suits) return {say::kBySuitExactly, piles};
+            return {say::kBySuit, piles, {suits == 4 ? "four" : "two"}};
+        case HomeType::Cone: return {piles == 9 ? say::kCone : say::kWideCone, piles};
         case HomeType::AtRandom:
-            return "Every card is dealt to one of the " + piles +
-                   " of the tableau, drawn at random.";
+            return {cards == row.Ext.TotalCards ? say::kAtRandom : say::kRestAtRandom, piles};
+        case HomeType::Rows:
+        case HomeType::ClosedCorner: break;
+    }
+    return {say::kRows, piles, {cards}};
+}
+
+RuleSentence Reserve(const GameRow& row) {
+    if (row.Res.Cards == 0) return {say::kReserve, row.Res.Piles};
+    if (row.Res.Cards == row.Res.Piles) return {say::kReserveFull, row.Res.Piles};
+    return {say::kReserveFilled, row.Res.Piles, {int{row.Res.Cards}}};
+}
+
+/// Which cards of the tableau are dealt closed; nothing when none is.
+Sentences ClosedCards(const GameRow& row) {
+    const int open = row.Home.CardsOpen;
+    switch (row.Home.HomeType) {
+        case HomeType::Rows:
+            if (open > 0 && open < row.Home.Cards) return {{say::kLastOpen, open}};
+            break;
+        case HomeType::Staircase:
+            if (open > 0 && row.Home.Piles > 1) return {{say::kTopsOpen}};
+            break;
+        case HomeType::ReverseStaircase:
+            if (open > 0 && row.Home.Piles > 1) return {{say::kFirstPileOpen}};
+            break;
+        case HomeType::ClosedCorner: return {{say::kCornerClosed}};
         default: break;
     }
-    return Cards(row.Home.Cards) + " are dealt in rows to the " + piles + " of the tableau.";
+    return {};
 }
 
-std::string Reserve(const GameRow& row) {
-    std::string text = " The reserve has " + Count(row.Res.Piles, "cell", "cells");
-    if (row.Res.Cards > 0)
-        text += ", " + std::to_string(row.Res.Cards) + " of them filled at the start";
-    return text + "; each holds one card of any kind.";
-}
-
-std::string Layout(const GameRow& row) {
+Sentences Layout(const GameRow& row) {
     const int left = CardsLeftOnStock(row);
-    const std::string stock = left > 0 ? " The other " + Cards(left) + " stay on the stock." : "";
-    return Tableau(row) + Reserve(row) + stock + " All cards but those of a closed stock lie open.";
-}
-
-std::string Building(const GameRow& row) {
-    if (row.Home.Order == OrderCode::Nothing) return "No card can be laid on a tableau pile.";
-    std::string text = "Tableau piles are built " + OrderText(row.Home.Order) + ".";
-    if (row.Home.AK != 0) text += " Ranks go round: a King may lie on an Ace.";
-    return text;
-}
-
-std::string Groups(const GameRow& row) {
-    if (row.Home.Order == OrderCode::Nothing) return "Cards are moved one at a time.";
-    const OrderCode order =
-        row.Home.MultiOrder == OrderCode::Nothing ? row.Home.Order : row.Home.MultiOrder;
-    const std::string text =
-        "Cards at the end of a pile that run " + OrderText(order) + " can be moved together, ";
-    if (IsSpider(row)) return text + "however many they are.";
-    return text +
-           "as many as the free places allow: one more than the free reserve cells, times one more "
-           "than the empty tableau piles.";
-}
-
-std::string EmptyPile(const GameRow& row) {
-    if (row.Ext.Tag == Tag::Penguin) {
-        return "An empty tableau pile takes only the rank just below the base rank.";
+    Sentences layout{Tableau(row)};
+    if (row.Res.Piles > 0) layout.push_back(Reserve(row));
+    if (row.Waste && row.Waste->Cards > 0) layout.push_back({say::kWasteStarts});
+    if (left > 0) layout.push_back({say::kStockLeft, left});
+    if (const Sentences closed = ClosedCards(row); !closed.empty()) {
+        layout.insert(layout.end(), closed.begin(), closed.end());
+        layout.push_back({say::kUncovers});
+    } else {
+        const bool closedStock = left > 0 && row.Stock.StockType != StockType::Open;
+        layout.push_back({closedStock ? say::kStockClosed : say::kAllOpen});
     }
-    if (row.Home.EmptyNum == kAnyCard) return "An empty tableau pile takes any card or group.";
-    if (row.Home.EmptyNum == kKing) return "An empty tableau pile takes only a King.";
-    return "An empty tableau pile takes no card.";
+    return layout;
 }
 
-std::string FoundationStart(const GameRow& row) {
+/// What going round means where cards lie in this order: nothing in some.
+Sentences GoingRound(OrderCode order, say::Sentence down, say::Sentence up, say::Sentence either) {
+    if (BuildsDown(order)) return {{down}};
+    if (BuildsUp(order)) return {{up}};
+    if (BuildsEitherWay(order)) return {{either}};
+    return {};
+}
+
+void Append(Sentences& to, const Sentences& more) { to.insert(to.end(), more.begin(), more.end()); }
+
+Sentences Building(const GameRow& row) {
+    const OrderCode order = row.Home.Order;
+    if (order == OrderCode::Nothing) return {{say::kNothingLaid}};
+    Sentences building{{say::kBuilt, 0, {OrderWords(row, order)}}};
+    if (row.Home.AK != 0) {
+        Append(building, GoingRound(order, say::kKingOnAce, say::kAceOnKing, say::kNeighbours));
+    }
+    return building;
+}
+
+/// Whether more than one card can be moved at a time.
+bool HasGroups(const GameRow& row) {
+    return row.Home.MultiMove != 0 && MultiOrderOf(row) != OrderCode::Nothing;
+}
+
+RuleSentence Groups(const GameRow& row) {
+    if (!HasGroups(row)) return {say::kOneAtATime};
+    const RuleWord order = OrderWords(row, MultiOrderOf(row));
+    if (!HasStackLimit(row.Ext.Tag)) return {say::kGroups, 0, {order}};
+    return {row.Res.Piles > 0 ? say::kGroupsByPlaces : say::kGroupsByPiles, 0, {order}};
+}
+
+RuleSentence EmptyPile(const GameRow& row) {
+    if (row.Ext.Tag == Tag::Penguin) {
+        if (row.Goal.GoalType == GoalType::FirstCard) return {say::kTakesBelowBase};
+        return {say::kTakesRank, 0, {OneOfRank(kKing)}};  // below the Ace
+    }
+    if (row.Home.EmptyNum == kAnyCard) {
+        return {HasGroups(row) ? say::kTakesAnyGroup : say::kTakesAnyCard};
+    }
+    if (row.Home.EmptyNum >= 0) return {say::kTakesRank, 0, {OneOfRank(row.Home.EmptyNum)}};
+    return {say::kTakesNone};
+}
+
+RuleSentence FoundationStart(const GameRow& row) {
     const int cards = row.Goal.Cards;
     switch (row.Goal.GoalType) {
-        case GoalType::AcesAndKings: return " Two Aces and two Kings lie there from the start.";
-        case GoalType::FirstCard:
-            return " The first card of the deal sets the base rank; " + Cards(cards) +
-                   " of that rank lie there from the start, and every foundation begins with it.";
-        case GoalType::FirstCards:
-            return " The first " + Cards(cards) + " of the deal start them, whatever they are.";
-        default: break;
+        case GoalType::WholeRuns: return {say::kBeginEmpty};
+        case GoalType::AcesAndKings: return {say::kHalfKings};
+        case GoalType::SuitpileRank: return {say::kRisingRanks, 0, {OneOfRank(cards - 1)}};
+        case GoalType::FirstCard: return {say::kFirstCard, cards};
+        case GoalType::FirstCards: return {say::kFirstCards, cards};
+        case GoalType::Aces:
+        case GoalType::Twos:
+        case GoalType::Kings: break;
     }
-    if (cards > 0) return " All " + std::to_string(cards) + " Aces lie there from the start.";
-    return IsSpider(row) ? " They begin empty." : " They begin empty, each with an Ace.";
+    if (IsSpider(row)) return {say::kBeginEmpty};
+    if (cards == 0) return {say::kBeginWithAces};
+    if (cards < SuitPilesOf(row)) return {say::kAcesStart, cards};
+    return {cards == 2 ? say::kBothStart : say::kAllStart, cards, {Ranks(row.Goal.GoalType)}};
 }
 
-std::string Foundations(const GameRow& row) {
-    if (IsSpider(row)) return "The foundations take whole runs only." + FoundationStart(row);
-    std::string text = "The foundations are built " + OrderText(row.Goal.Order) +
-                       (row.Goal.AK != 0 ? ", from King on to Ace," : "") +
-                       " until they hold thirteen cards.";
-    if (row.Ext.Tag == Tag::FreecellAK) {
-        text =
-            "The first two foundations are built up in suit from the Ace, the other two down in "
-            "suit from the King.";
+Sentences Foundations(const GameRow& row) {
+    if (IsSpider(row)) return {{say::kRunsOnly}, FoundationStart(row)};
+    const bool twoWays = row.Ext.Tag == Tag::FreecellAK && row.Goal.Piles > 2;
+    Sentences foundations{{twoWays ? say::kFoundationsUpAndDown : say::kFoundations,
+                           0,
+                           {OrderWords(row, row.Goal.Order)}}};
+    if (row.Goal.AK != 0) {
+        const OrderCode order = row.Goal.Order;
+        if (!twoWays) {
+            Append(foundations,
+                   GoingRound(order, say::kKingAfterAce, say::kAceAfterKing, say::kRoundBothWays));
+        } else if (BuildsUp(order) || BuildsEitherWay(order)) {
+            foundations.push_back({say::kRoundBothWays});
+        } else {
+            foundations.push_back({say::kKingAfterAce});
+        }
     }
-    return text + FoundationStart(row) + " The top card of a foundation may be taken back.";
+    foundations.push_back(FoundationStart(row));
+    foundations.push_back({say::kTakenBack});
+    return foundations;
 }
 
-std::string Stock(const GameRow& row) {
-    if (row.Stock.StockType == StockType::Open) {
-        return "The stock lies open; its top card can be moved like a card of the tableau.";
-    }
-    if (row.Stock.StockMove == StockMove::Row) {
-        return "A click on the stock deals one card to each tableau pile, whatever lies there.";
-    }
-    return "A click on the stock turns its top card over onto the waste, whose top card can be "
-           "moved. The stock is gone through once.";
+Sentences Stock(const GameRow& row) {
+    if (row.Stock.StockType == StockType::Open) return {{say::kStockOpen}};
+    if (row.Stock.StockMove == StockMove::Row) return {{say::kStockRow}};
+    const bool redeals = row.Stock.StockNum == StockNum::Redeal;
+    return {{say::kStockToWaste}, {redeals ? say::kStockRedeal : say::kStockOnce}};
 }
 
-std::string Autoplay(const GameRow& row) {
-    if (IsSpider(row)) return "A finished run goes to a foundation by itself, always.";
-    if (row.Ext.DisAutoPlay != 0) return "No card goes up by itself in this game.";
-    return "With Autoplay on, after each move every card that fits a foundation goes up by itself.";
+RuleSentence Autoplay(const GameRow& row) {
+    if (IsSpider(row)) return {say::kRunsGoUp};
+    return {row.Ext.DisAutoPlay != 0 ? say::kNoAutoplay : say::kAutoplay};
+}
+
+std::string English(const RuleWord& word) {
+    if (const int* number = std::get_if<int>(&word)) return std::to_string(*number);
+    return std::string(std::get<std::string_view>(word));
 }
 
 }  // namespace
 
-int CardsLeftOnStock(const GameRow& row) {
-    const bool dealsAll = row.Home.HomeType == HomeType::BySuit ||
-                          row.Home.HomeType == HomeType::Cone ||
-                          row.Home.HomeType == HomeType::AtRandom;
-    if (dealsAll) return 0;
-    return row.Ext.TotalCards - row.Goal.Cards - row.Res.Cards - row.Home.Cards;
+std::string RuleSentence::English() const {
+    const std::string_view text = Count == 1 ? Text.One : Text.Many;
+    std::string english;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '%') {
+            english += text[i];
+            continue;
+        }
+        const char place = text[++i];
+        english += place == 'n'
+                       ? std::to_string(Count)
+                       : varnello::English(Words.at(static_cast<std::size_t>(place - '1')));
+    }
+    return english;
+}
+
+std::string GameFact::English() const {
+    std::string english;
+    for (const RuleSentence& sentence : Sentences) {
+        if (!english.empty()) english += ' ';
+        english += sentence.English();
+    }
+    return english;
 }
 
 std::vector<GameFact> Describe(const GameRow& row) {
     std::vector<GameFact> facts{{"Aim", Aim(row)},
                                 {"Layout", Layout(row)},
                                 {"Building", Building(row)},
-                                {"Groups", Groups(row)},
-                                {"Empty piles", EmptyPile(row)},
+                                {"Groups", {Groups(row)}},
+                                {"Empty piles", {EmptyPile(row)}},
                                 {"Foundations", Foundations(row)}};
     if (CardsLeftOnStock(row) > 0) facts.push_back({"Stock", Stock(row)});
-    facts.push_back({"Autoplay", Autoplay(row)});
+    facts.push_back({"Autoplay", {Autoplay(row)}});
     return facts;
 }
 
