@@ -37,7 +37,7 @@ bool AnswerInText(const std::string& question) {
         text.append(" ").append(varnello::kVersion);
     } else if (question == "--help") {
         text.append(
-            " plays 35 patience card games.\n\n"
+            " plays patience card games.\n\n"
             "usage: varnello [toolkit option...]\n"
             "       varnello --help | --version");
     } else {

@@ -32,8 +32,8 @@ private Q_SLOTS:
                 QVERIFY2(!PageOf(target).html.isEmpty(), qPrintable(name + " -> " + target));
             }
             if (!name.startsWith("game:")) continue;
-            QVERIFY2(page.html.contains("<b>Aim</b>"), qPrintable(name));
-            QVERIFY2(page.html.contains("<h2>Hints</h2>"), qPrintable(name));
+            QVERIFY2(page.html.contains("<b>Aim</b>") && page.html.contains("<h2>Hints</h2>"),
+                     qPrintable(name + " has no page with hints in assets/help/games/"));
         }
         QCOMPARE(PageNameOf(0), "contents");
         QCOMPARE(PageNameOf(TotalGames() + 1), "contents");

@@ -1,5 +1,21 @@
-# Plays SCRIPTS with PROGRAM, each in the fresh data folder FOLDER.
-foreach(script IN LISTS SCRIPTS)
+# Plays the won game of each game of CATALOGUE, from the folder SCRIPTS, with PROGRAM, each in the fresh
+# data folder FOLDER.
+file(STRINGS ${CATALOGUE} rows REGEX "\\.Name = \"")
+foreach(row IN LISTS rows)
+    string(REGEX REPLACE ".*\\.Name = \"([^\"]*)\".*" "\\1" game "${row}")
+    string(TOLOWER "${game}" name)
+    string(REPLACE "'" "" name "${name}")
+    string(REPLACE " " "-" name "${name}")
+    set(script ${SCRIPTS}/${name}.script)
+    if(NOT EXISTS ${script})
+        message(SEND_ERROR "${game} has no won game yet. This finds one: build/check/tools/find-win/"
+                           "varnello-find-win \"${game}\" 1 > tests/wins/${name}.script")
+        continue()
+    endif()
+    file(READ ${script} commands)
+    if(NOT commands MATCHES "\nstart [0-9]+ ${game}\n")
+        message(SEND_ERROR "${script} doesn't start ${game}.")
+    endif()
     file(REMOVE_RECURSE ${FOLDER})
     execute_process(COMMAND ${PROGRAM} ${FOLDER} INPUT_FILE ${script} OUTPUT_VARIABLE output
                     RESULT_VARIABLE result)

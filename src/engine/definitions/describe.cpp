@@ -160,7 +160,8 @@ Sentences Building(const GameRow& row) {
 
 /// Whether more than one card can be moved at a time.
 bool HasGroups(const GameRow& row) {
-    return row.Home.MultiMove != 0 && MultiOrderOf(row) != OrderCode::Nothing;
+    const bool hasRoom = row.Home.Piles > 1 || row.Res.Piles > 0 || !HasStackLimit(row.Ext.Tag);
+    return row.Home.MultiMove != 0 && MultiOrderOf(row) != OrderCode::Nothing && hasRoom;
 }
 
 RuleSentence Groups(const GameRow& row) {
