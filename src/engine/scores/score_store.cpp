@@ -25,7 +25,7 @@ FileScores ReadScores(const std::filesystem::path& file, const std::string& play
     ScoreList& list = scores.list;
     std::error_code none;
     const std::uintmax_t bytes = std::filesystem::file_size(file, none);
-    if (!none) list.Reserve(std::min(bytes / kShortLine, kMostReserved));
+    if (!none) list.Reserve(static_cast<std::size_t>(std::min(bytes / kShortLine, kMostReserved)));
     const std::uint16_t number = list.AddPlayer(player);
     const bool whole = ForEachLine(file, [&](std::string_view line) {
         if (const auto fields = ReadScoreLine(line)) list.Add(*fields, number);

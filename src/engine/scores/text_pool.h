@@ -45,7 +45,9 @@ private:
             const std::size_t size = std::min(text.size(), sizeof first);
             std::memcpy(&first, text.data(), size);
             std::memcpy(&last, text.data() + text.size() - size, size);
-            return (first * 0x9E3779B97F4A7C15U) ^ (last * 0xC2B2AE3D27D4EB4FU >> 7) ^ text.size();
+            const std::uint64_t hash =
+                (first * 0x9E3779B97F4A7C15U) ^ (last * 0xC2B2AE3D27D4EB4FU >> 7) ^ text.size();
+            return static_cast<std::size_t>(hash ^ hash >> 32);
         }
     };
 
