@@ -107,7 +107,7 @@ void CheckFavorites(Favorites& favorites, const std::string& text) {
 }
 
 void CheckAppended(const std::filesystem::path& file, const std::string& before) {
-    const std::string after = BytesOf(file);
+    const std::string after = ReadFile(file);
     Require(after.starts_with(before) && after.size() > before.size(), "bytes are lost");
     Require(after.ends_with("\r\n"), "a line without an end");
 }
@@ -120,9 +120,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr std::size_t kMostBytes = 16384;
     if (size > kMostBytes) return 0;
     const std::string text(reinterpret_cast<const char*>(data), size);
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     NullDesktop nothing;
-    Engine engine(nothing.Interfaces(folder.path));
+    Engine engine(nothing.Interfaces(folder.Path()));
     engine.InitMain();
     const auto scores = ScorePath(engine.data(), "Player1");
     for (const auto& file : {scores, engine.favorites().File()}) {
@@ -137,7 +137,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                   "not appended");
     test::CheckAppended(scores, text);
     test::CheckAppended(engine.favorites().File(), text);
-    test::CheckScores(engine.score(), test::BytesOf(scores));
-    test::CheckFavorites(engine.favorites(), test::BytesOf(engine.favorites().File()));
+    test::CheckScores(engine.score(), test::ReadFile(scores));
+    test::CheckFavorites(engine.favorites(), test::ReadFile(engine.favorites().File()));
     return 0;
 }

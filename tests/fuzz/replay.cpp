@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     for (const auto& file : files) {
         std::printf("%s\n", file.filename().c_str());
         std::fflush(stdout);
-        const std::string bytes = varnello::test::BytesOf(file);
+        const std::string bytes = varnello::test::ReadFile(file);
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     }
     return files.empty() ? 1 : 0;

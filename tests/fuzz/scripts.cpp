@@ -63,9 +63,9 @@ bool Deals(std::string_view line) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace varnello;
     if (size > test::kMostBytes) return 0;
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     std::ostringstream out;
-    script::ScriptedTable table(folder.path, out);
+    script::ScriptedTable table(folder.Path(), out);
     std::istringstream lines(std::string(reinterpret_cast<const char*>(data), size));
     int count = 0;
     int deals = 0;

@@ -77,10 +77,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace varnello;
     constexpr std::size_t kMostBytes = 4096;
     if (size > kMostBytes) return 0;
-    const test::ScratchFolder folder;
+    const test::TempFolder folder;
     NullDesktop nothing;
     test::Fill(nothing.settings, std::string(reinterpret_cast<const char*>(data), size));
-    Engine engine(nothing.Interfaces(folder.path));
+    Engine engine(nothing.Interfaces(folder.Path()));
     engine.InitMain();
     test::CheckNumbers(engine, nothing.settings);
     test::CheckPlayers(engine.data());

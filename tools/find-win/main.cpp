@@ -1,12 +1,10 @@
-#include <unistd.h>
-
 #include <chrono>
-#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <span>
 #include <string>
 
+#include "../../tests/files.h"
 #include "engine/common/number_text.h"
 #include "engine/definitions/catalogue.h"
 #include "real_table.h"
@@ -51,27 +49,8 @@ std::optional<Request> ReadArguments(std::span<char*> arguments) {
     return request;
 }
 
-/// A folder for the score files of the games played here; it goes with the object.
-class ScratchFolder {
-public:
-    ScratchFolder()
-        : path_(std::filesystem::temp_directory_path() /
-                ("varnello-find-win-" + std::to_string(getpid()))) {}
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
 int FindAndPrint(const Request& request) {
-    const ScratchFolder folder;
+    const test::TempFolder folder;  // for the score files of the games played here
     RealTable table(folder.Path(), request.game, request.number, request.autoplay);
     const Rules rules = table.ReadRules();
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(request.seconds);
