@@ -55,9 +55,9 @@ copy_sources() {
     while IFS= read -r -d '' path; do
         [ ! -e "$root/$path" ] || cmp -s "$root/$path" "$source/$path" ||
             install -D "$root/$path" "$source/$path"
-    done < <(cd "$root" && git ls-files -z -co --exclude-standard src tests CMakeLists.txt)
+    done < <(cd "$root" && git ls-files -z -co --exclude-standard src tests tools CMakeLists.txt)
     # The sanitizers take their time. Most of what they would see, checked containers see as well.
-    sed -i 's/-O1 -g -fsanitize=address,undefined -fno-sanitize-recover=all/-D_GLIBCXX_ASSERTIONS/
+    sed -i 's/-O1 -g -UNDEBUG -fsanitize=address,undefined -fno-sanitize-recover=all/-D_GLIBCXX_ASSERTIONS/
             s/-fsanitize=address,undefined//' "$source/src/engine/CMakeLists.txt"
     cmake -S "$source" -B "$build" -G Ninja -DVARNELLO_DESKTOP=OFF -DVARNELLO_BENCH=OFF \
         --compile-no-warning-as-error >"$log"  # a fault may leave something unused
@@ -82,9 +82,8 @@ first_failure() {
             -D EXPECTED="${script%.script}.expected" -P "$root/tests/scripts/compare.cmake" \
             >"$log" 2>&1 || { echo "script.$name" && return 0; }
     done
-    local wins=("$root"/tests/wins/*.script)
-    timeout 120 cmake -D PROGRAM="$program" -D FOLDER="$work/data" \
-        -D SCRIPTS="$(IFS=';' && echo "${wins[*]}")" -P "$root/tests/wins/play.cmake" \
+    timeout 120 cmake -D PROGRAM="$program" -D FOLDER="$work/data" -D SCRIPTS="$root/tests/wins" \
+        -D CATALOGUE="$root/src/engine/definitions/catalogue.cpp" -P "$root/tests/wins/play.cmake" \
         >"$log" 2>&1 || echo wins
 }
 

@@ -4,7 +4,8 @@ namespace varnello {
 
 void cArray::MoveCard(CardMove move) {
     const Place to = move.To;
-    const bool fullFoundation = to.Cell == Cell::Goal && GetTop(Cell::Goal, to.Pile) == kKing &&
+    const bool fullFoundation = to.Cell == Cell::Goal &&
+                                GetTop(Cell::Goal, to.Pile) == kRanks - 1 &&
                                 games_.Tag() != Tag::Spider;
     if (fullFoundation) return;
 

@@ -59,7 +59,7 @@ std::optional<Place> Gestures::TargetOnFoundation(PicID id, bool wide) const {
         bool accepted = false;
         if (top == -1) {
             accepted = card.Num == games.GoalBase();
-        } else if (top != kKing) {  // thirteen cards make a foundation full
+        } else if (top != kRanks - 1) {  // else it is full
             accepted = FitsOrder(field_.table.Card(field_.array.GetTopPicID(Cell::Goal, pile)),
                                  card, games.Order(Cell::Goal, pile), games.AK(Cell::Goal));
         }
