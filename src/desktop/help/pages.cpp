@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "desktop/platform/text.h"
+#include "engine/definitions/catalogue.h"
 #include "engine/definitions/describe.h"
 
 namespace varnello {
