@@ -83,7 +83,8 @@ private Q_SLOTS:
         QCOMPARE(select->tree()->currentItem()->text(0), "Avenue");
         select->tree()->setCurrentItem(select->tree()->topLevelItem(0));
         QVERIFY(!select->play()->isEnabled());
-        select->tree()->setCurrentItem(select->tree()->topLevelItem(0)->child(24));
+        const int penguin = fixture.engine().data().GetGameID("Penguin");
+        select->tree()->setCurrentItem(select->tree()->topLevelItem(0)->child(penguin - 1));
         select->players()->setCurrentText("Ann");
         QTest::mouseClick(select->play(), Qt::LeftButton);
         QVERIFY(fixture.engine().data().GameRunning);
