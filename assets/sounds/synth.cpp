@@ -53,6 +53,18 @@ void Filter::SetHighPass(double frequency, double quality) {
     b2_ = b0_;
 }
 
+void Filter::SetHighShelf(double frequency, double quality, double gain) {
+    const double slope = std::tan(pi * frequency / sampleRate);
+    const double high = std::pow(10.0, gain / 20.0);
+    const double middle = std::pow(high, 0.4996667741545416);
+    const double scale = 1.0 / (1.0 + slope / quality + slope * slope);
+    b0_ = (high + middle * slope / quality + slope * slope) * scale;
+    b1_ = 2.0 * (slope * slope - high) * scale;
+    b2_ = (high - middle * slope / quality + slope * slope) * scale;
+    a1_ = 2.0 * (slope * slope - 1.0) * scale;
+    a2_ = (1.0 - slope / quality + slope * slope) * scale;
+}
+
 double Filter::Process(double input) {
     const double output = b0_ * input + state1_;
     state1_ = b1_ * input - a1_ * output + state2_;
@@ -93,42 +105,24 @@ void AddKnock(Samples& target, double start, double level, double attack,
     }
 }
 
-void AddPluck(Samples& target, const Pluck& pluck, std::uint64_t seed) {
-    // The loop of string and damping; half a sample of its length lies in the damping filter.
-    const double period = sampleRate / pluck.frequency - 0.5;
-    const std::size_t length = static_cast<std::size_t>(period);
-    const double fraction = period - static_cast<double>(length);
-    const double loss = std::pow(10.0, -3.0 / (pluck.ring * pluck.frequency));
-
-    // A finger gives a dull pluck: noise made smooth, and taken off a fifth along the string.
-    Noise noise(seed);
-    Filter soften;
-    soften.SetLowPass(400.0 + 3600.0 * pluck.brightness, 0.6);
-    Samples shape(length + 1);
-    for (double& value : shape) value = soften.Process(noise.Next());
-    double mean = 0.0;
-    for (double value : shape) mean += value / static_cast<double>(shape.size());
-    Samples line(shape.size());
-    double power = 0.0;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        const std::size_t behind = (i + shape.size() - shape.size() / 5) % shape.size();
-        line[i] = (shape[i] - mean) - (shape[behind] - mean);
-        power += line[i] * line[i] / static_cast<double>(line.size());
-    }
-    const double gain = pluck.level / std::sqrt(power);
-
-    double previous = 0.0;
-    std::size_t position = 0;
+void AddPluck(Samples& target, const Pluck& pluck) {
+    constexpr int partials = 6;
+    constexpr double place = 0.21;  // of the finger along the string
+    constexpr double attack = 0.005;
     const std::size_t first = SampleCount(pluck.start);
-    for (std::size_t i = first; i < target.size(); ++i) {
-        const std::size_t next = (position + 1) % line.size();
-        // Between two samples of the line lies the exact length of the string.
-        const double tone = line[position] * fraction + line[next] * (1.0 - fraction);
-        const double time = static_cast<double>(i - first) / sampleRate;
-        target[i] += gain * tone * Strike(std::min(time, 0.004), 0.004, 1.0);
-        line[position] = loss * 0.5 * (tone + previous);
-        previous = tone;
-        position = next;
+    for (int partial = 1; partial <= partials; ++partial) {
+        // A string drawn aside at a point, its corner made round by the finger's breadth.
+        const double level =
+            std::sin(pi * place * partial) / std::sin(pi * place) / std::pow(partial, 1.9);
+        const double decay = pluck.ring / (0.6 + 0.4 * partial);
+        // A stiff string's partials lie a little wide.
+        const double frequency =
+            pluck.frequency * partial * std::sqrt(1.0 + 0.0001 * partial * partial);
+        for (std::size_t i = first; i < target.size(); ++i) {
+            const double time = static_cast<double>(i - first) / sampleRate;
+            target[i] +=
+                level * std::sin(2.0 * pi * frequency * time) * Strike(time, attack, decay);
+        }
     }
 }
 

@@ -32,6 +32,8 @@ public:
     void SetBandPass(double frequency, double quality);
     void SetLowPass(double frequency, double quality);
     void SetHighPass(double frequency, double quality);
+    // Lifts what lies above the frequency by so many decibels.
+    void SetHighShelf(double frequency, double quality, double gain);
     double Process(double input);
 
 private:
@@ -70,16 +72,15 @@ void AddBurst(Samples& target, const Burst& burst, std::uint64_t seed);
 void AddKnock(Samples& target, double start, double level, double attack,
               std::initializer_list<Mode> modes);
 
-// A string plucked softly with the finger.
+// A string plucked softly with the finger. All strings have the same partials, so that one isn't
+// heard before another.
 struct Pluck {
     double start;
     double frequency;
-    double level;
-    double brightness;  // 0 dull to 1 bright
-    double ring;        // seconds until the tone has fallen by 60 dB
+    double ring;  // seconds until the fundamental has fallen to a third
 };
 
-void AddPluck(Samples& target, const Pluck& pluck, std::uint64_t seed);
+void AddPluck(Samples& target, const Pluck& pluck);
 
 void ApplyHighPass(Samples& samples, double frequency);
 void ApplyLowPass(Samples& samples, double frequency);

@@ -4,11 +4,13 @@
 #include <cmath>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 namespace {
 
-constexpr double peakDecibels = -9.0;
+constexpr std::size_t headerBytes = 44;
+constexpr double fullScale = 32767.0;
 
 void Append(std::string& bytes, std::uint32_t value, int count) {
     for (int i = 0; i < count; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFFu));
@@ -35,14 +37,9 @@ std::string Header(std::uint32_t dataBytes) {
 }  // namespace
 
 bool WriteWave(const std::filesystem::path& path, const Samples& samples) {
-    double peak = 0.0;
-    for (double sample : samples) peak = std::max(peak, std::abs(sample));
-    const double target = 32767.0 * std::pow(10.0, peakDecibels / 20.0);
-    const double scale = peak > 0.0 ? target / peak : 0.0;
-
     std::string bytes = Header(static_cast<std::uint32_t>(samples.size() * 2));
     for (double sample : samples) {
-        const auto value = static_cast<std::int32_t>(std::lround(sample * scale));
+        const auto value = static_cast<std::int32_t>(std::lround(sample * fullScale));
         Append(bytes, static_cast<std::uint32_t>(value), 2);
     }
 
@@ -50,4 +47,16 @@ bool WriteWave(const std::filesystem::path& path, const Samples& samples) {
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     return !file.fail();
+}
+
+Samples ReadWave(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    Samples samples;
+    for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
+        const int low = static_cast<unsigned char>(bytes[i]);
+        const int high = static_cast<signed char>(bytes[i + 1]);
+        samples.push_back((high * 256 + low) / fullScale);
+    }
+    return samples;
 }
