@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <string>
 
@@ -20,7 +21,10 @@ std::unique_ptr<varnello::MainWindow>* running = nullptr;  ///< while the event 
 
 /// No sound device means silence, so what the sound library says about it isn't passed on.
 void AfterScreen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!text.startsWith(QStringLiteral("PulseAudioService"))) usualHandler(type, context, text);
+    const bool ofSound =
+        text.startsWith(QStringLiteral("PulseAudioService")) ||
+        (context.category && std::strncmp(context.category, "qt.multimedia", 13) == 0);
+    if (!ofSound) usualHandler(type, context, text);
 }
 
 /// Until the toolkit has a screen, only its last word counts: one sentence instead of its many.

@@ -8,6 +8,7 @@
 
 #include "engine/common/calendar.h"
 #include "engine/definitions/codes.h"
+#include "engine/definitions/sounds.h"
 
 /// What the engine asks of a desktop. The window implements these on its toolkit, the scripted
 /// table and the tests in a few lines each.
@@ -71,8 +72,6 @@ public:
     /// has come to the end.
     virtual bool Showing() const = 0;
 };
-
-enum class Sound { Start, CardUp, CardDown, AutoPlay, Undo, Redo, Win };
 
 class SoundPlayer {
 public:

@@ -3,23 +3,6 @@
 #include <algorithm>
 
 namespace varnello::script {
-namespace {
-
-/// The argument of `PlaySound` for an event.
-std::string_view SoundName(Sound event) {
-    switch (event) {
-        case Sound::Start: return "Start";
-        case Sound::CardUp: return "CardUp";
-        case Sound::CardDown: return "CardDown";
-        case Sound::AutoPlay: return "AutoPlay";
-        case Sound::Undo: return "Undo";
-        case Sound::Redo: return "Redo";
-        case Sound::Win: return "Win";
-    }
-    return {};
-}
-
-}  // namespace
 
 bool ScriptClock::Advance(std::int64_t seconds) {
     constexpr std::int64_t kLongest = 400'000'000'000;  // more than all years of the calendar
@@ -31,7 +14,7 @@ bool ScriptClock::Advance(std::int64_t seconds) {
 }
 
 void PrintedSounds::Play(Sound event) {
-    if (on) out_ << "sound: " << SoundName(event) << '\n';
+    if (on) out_ << "sound: " << RowOf(event).Name() << '\n';
 }
 
 void PrintedMessages::Inform(const std::string& text) {

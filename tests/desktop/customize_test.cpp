@@ -66,13 +66,14 @@ private Q_SLOTS:
         cData& data = fixture.engine().data();
         CustomizeDialog cancelled(fixture.engine(), &fixture.window);
         ChangeEverything(cancelled);
+        QCOMPARE(fixture.sounds.heard, std::vector{Sound::CardUp});  // the one that was ticked
         for (QCheckBox* box : cancelled.findChildren<QCheckBox*>()) {
             if (box->text() == "Show Moves") box->click();
         }
         cancelled.reject();
         QCOMPARE(data.Get(keys::BGIndex), 1007);
         QCOMPARE(data.Get(keys::CardSpeed), 5);
-        QCOMPARE(data.Get(keys::SoundStart), -1);
+        QCOMPARE(data.Get(SwitchOf(Sound::Start)), -1);
         QCOMPARE(data.Get(keys::ShowMoves), 0);  // acts at once
 
         fixture.Start("Cascade");
@@ -88,8 +89,8 @@ private Q_SLOTS:
         QCOMPARE(data.Get(keys::Fade), 1);
         QCOMPARE(data.Get(keys::CardSpeed), 50);
         QCOMPARE(data.Get(keys::ReplaySpeed), 0);
-        QCOMPARE(data.Get(keys::SoundStart), 0);
-        QCOMPARE(data.Get(keys::SoundCardUp), -1);
+        QCOMPARE(data.Get(SwitchOf(Sound::Start)), 0);
+        QCOMPARE(data.Get(SwitchOf(Sound::CardUp)), -1);
         QVERIFY(fixture.window.table().grab().toImage() != before);
     }
 

@@ -1,5 +1,6 @@
 #include <QDialog>
 #include <QMenu>
+#include <numeric>
 
 #include "fixture.h"
 
@@ -30,7 +31,7 @@ private Q_SLOTS:
     void FollowsTheMouseAndGoesBackInSilence() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.engine().data().Set(keys::SoundCardUp, -1);
+        fixture.engine().data().Set(SwitchOf(Sound::CardUp), -1);
         fixture.sounds.heard.clear();
         const PicID card = fixture.Top(Cell::Home, 7);
         const double left = fixture.Card(card).Left;
@@ -96,6 +97,24 @@ private Q_SLOTS:
             fixture.Move(fixture.At(2980 + 532, 200 + 720), Qt::NoButton);
             QVERIFY2(fixture.engine().trans().GetTransID() == 0, way);
         }
+    }
+
+    void EachCardOfACascadeIsHeardAsItLands() {
+        WindowFixture fixture;
+        fixture.StartWithoutAutoplay("Stripped Freecell", 6);
+        Motion& motion = fixture.window.motion();
+        motion.SetPaced(true);
+        fixture.sounds.heard.clear();
+        std::vector<std::size_t> atLandings;
+        connect(&motion, &Motion::Changed, this,
+                [&] { atLandings.push_back(fixture.sounds.heard.size()); });
+        QTest::keyClick(&fixture.window, Qt::Key_F7);
+        QTRY_VERIFY(!motion.Showing());
+        std::vector<std::size_t> expected(atLandings.size());
+        std::iota(expected.begin(), expected.end(), 1);
+        QVERIFY(expected.size() >= 3);
+        QCOMPARE(atLandings, expected);
+        QCOMPARE(fixture.sounds.heard, std::vector<Sound>(expected.size(), Sound::AutoPlay));
     }
 
     void AClickOnTheStocksSlotTurnsTheWasteBack() {

@@ -13,7 +13,9 @@ At Stands(HandBoard& board, std::string_view card) {
 
 TEST(Gestures, SoundWhateverTheyMove) {
     HandBoard board(Freecells(), "t0 KH 4S, t1 QS");
-    for (const auto& key : {keys::SoundCardDown, keys::SoundCardUp}) board.data.Set(key, -1);
+    for (const Sound event : {Sound::CardDown, Sound::CardUp}) {
+        board.data.Set(SwitchOf(event), -1);
+    }
     board.Do("KH@5000,5000");
     EXPECT_EQ(board.Heard(), "sound: CardDown\n") << "nothing was picked up";
     board.Do("4S");

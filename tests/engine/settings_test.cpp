@@ -29,20 +29,13 @@ TEST_F(Settings, NonsenseCountsAsTheDefault) {
 }
 
 TEST_F(Settings, SoundIsHeardOnlyWithItsSwitchAtMinusOne) {
-    const std::pair<Sound, NumberKey> sounds[] = {{Sound::Start, keys::SoundStart},
-                                                  {Sound::CardUp, keys::SoundCardUp},
-                                                  {Sound::CardDown, keys::SoundCardDown},
-                                                  {Sound::AutoPlay, keys::SoundAutoPlay},
-                                                  {Sound::Undo, keys::SoundUndo},
-                                                  {Sound::Redo, keys::SoundRedo},
-                                                  {Sound::Win, keys::SoundWin}};
-    for (const auto& [sound, key] : sounds) {
-        for (const auto& other : sounds) data.Set(other.second, 1);
-        data.PlaySound(sound);
-        EXPECT_EQ(Heard(), "") << key.Key;
-        data.Set(key, -1);
-        data.PlaySound(sound);
-        EXPECT_EQ(Heard(), "sound: " + std::string(key.Key.substr(5)) + "\n");
+    for (const SoundRow& row : kSounds) {
+        for (const SoundRow& other : kSounds) data.Set(SwitchOf(other.Event), 1);
+        data.PlaySound(row.Event);
+        EXPECT_EQ(Heard(), "") << row.Switch;
+        data.Set(SwitchOf(row.Event), -1);
+        data.PlaySound(row.Event);
+        EXPECT_EQ(Heard(), "sound: " + std::string(row.Name()) + "\n");
     }
 }
 

@@ -26,18 +26,6 @@ constexpr std::array kSpeeds{SpeedRow{"Card Moving Speed", keys::CardSpeed},
                              SpeedRow{"Replay Speed", keys::ReplaySpeed}};
 constexpr int kSlowest = 50;  // the stored value of a slider's left end; the right end is 0
 
-struct SoundRow {
-    const char* text;
-    NumberKey key;
-};
-constexpr std::array kSounds{SoundRow{"Initial Shuffle", keys::SoundStart},
-                             SoundRow{"Card Up", keys::SoundCardUp},
-                             SoundRow{"Card Down", keys::SoundCardDown},
-                             SoundRow{"Autoplay Move", keys::SoundAutoPlay},
-                             SoundRow{"Undo", keys::SoundUndo},
-                             SoundRow{"Redo", keys::SoundRedo},
-                             SoundRow{"Game Won", keys::SoundWin}};
-
 struct CounterRow {
     const char* text;
     NumberKey key;
@@ -105,9 +93,9 @@ void CustomizeDialog::Ok() {
     for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
         data.Set(kSpeeds[i].key, static_cast<std::int16_t>(kSlowest - sliders_[i]->value()));
     }
-    for (std::size_t i = 0; i < kSounds.size(); ++i) {
-        const bool on = lvSound_->item(static_cast<int>(i))->checkState() == Qt::Checked;
-        data.Set(kSounds[i].key, on ? kTrue : std::int16_t{0});
+    for (const SoundRow& row : kSounds) {
+        const bool on = lvSound_->item(static_cast<int>(row.Event))->checkState() == Qt::Checked;
+        data.Set(SwitchOf(row.Event), on ? kTrue : std::int16_t{0});
     }
     data.Set(keys::BGIndex, static_cast<std::int16_t>(background_.bgIndex));
     data.Set(keys::Fade, background_.fade ? 1 : 0);
@@ -204,6 +192,11 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
         sliders_[i] = slider;
         auto* inside = new QVBoxLayout(frame);
         inside->addWidget(slider);
+        auto* ends = new QHBoxLayout;
+        ends->addWidget(new QLabel(QStringLiteral("Slow")));
+        ends->addStretch();
+        ends->addWidget(new QLabel(QStringLiteral("Fast")));
+        inside->addLayout(ends);
         all->addWidget(frame, static_cast<int>(i), 0);
     }
     FillSounds();
@@ -221,10 +214,15 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
 void CustomizeDialog::FillSounds() {
     lvSound_->setAccessibleName(QStringLiteral("Select Sound"));
     for (const SoundRow& row : kSounds) {
-        auto* item = new QListWidgetItem(QString::fromLatin1(row.text), lvSound_);
+        auto* item = new QListWidgetItem(ToQt(row.Caption), lvSound_);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        item->setCheckState(engine_.data().Get(row.key) == kTrue ? Qt::Checked : Qt::Unchecked);
+        const bool on = engine_.data().Get(SwitchOf(row.Event)) == kTrue;
+        item->setCheckState(on ? Qt::Checked : Qt::Unchecked);
     }
+    connect(lvSound_, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
+        if (item->checkState() != Qt::Checked) return;
+        engine_.data().TrySound(static_cast<Sound>(lvSound_->row(item)));
+    });
 }
 
 }  // namespace varnello

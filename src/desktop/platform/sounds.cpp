@@ -1,31 +1,36 @@
 #include "desktop/platform/sounds.h"
 
+#include <QFile>
+
 #include "desktop/modules/module.h"
+#include "desktop/platform/text.h"
 
 namespace varnello {
-namespace {
 
-QString WaveOf(Sound event) {
-    switch (event) {
-        case Sound::Start: return QStringLiteral(":/sounds/start.wav");
-        case Sound::CardUp: return QStringLiteral(":/sounds/cardup.wav");
-        case Sound::CardDown: return QStringLiteral(":/sounds/carddown.wav");
-        case Sound::AutoPlay: return QStringLiteral(":/sounds/autoplay.wav");
-        case Sound::Undo:
-        case Sound::Redo: return QStringLiteral(":/sounds/undo.wav");
-        case Sound::Win: break;
+QStringList WavesOf(Sound event) {
+    QStringList waves;
+    for (int variant = 1;; ++variant) {
+        const QString file =
+            QStringLiteral(":/sounds/%1-%2.wav").arg(ToQt(RowOf(event).Wave)).arg(variant);
+        if (!QFile::exists(file)) return waves;
+        waves.append(file);
     }
-    return QStringLiteral(":/sounds/win.wav");
 }
 
-}  // namespace
+QString WaveTurns::Next(Sound event) {
+    QStringList& waves = waves_[ToQt(RowOf(event).Wave)];
+    if (waves.isEmpty()) waves = WavesOf(event);
+    if (waves.isEmpty()) return {};
+    waves.append(waves.takeFirst());
+    return waves.last();
+}
 
 void WaveSounds::Play(Sound event) {
     if (!tried_) {
         tried_ = true;
         module_ = qobject_cast<SoundModule*>(LoadModule(QStringLiteral("varnello-sound")));
     }
-    if (module_) module_->Play(WaveOf(event));
+    if (module_) module_->Play(turns_.Next(event));
 }
 
 }  // namespace varnello

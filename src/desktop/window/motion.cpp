@@ -45,7 +45,24 @@ void Motion::SlotChanged(Cell cell, int pile, const KesEmpty& slot) {
     Take(SlotStep{cell, pile, slot});
 }
 
-void Motion::Play(Sound event) { Take(event); }
+void Motion::Play(Sound event) {
+    // A card that goes up is told to be heard behind all that followed it, so a cascade's flights
+    // come first and its sounds after them, as brackets are closed. Each is heard as its own card
+    // lands, which leaves the sounds in their order.
+    CardStep* flight = event == Sound::AutoPlay ? SilentFlight() : nullptr;
+    if (!flight) return Take(event);
+    flight->landing = event;
+}
+
+Motion::CardStep* Motion::SilentFlight() {
+    for (auto step = steps_.rbegin(); step != steps_.rend(); ++step) {
+        if (std::holds_alternative<Sound>(*step)) break;
+        auto* card = std::get_if<CardStep>(&*step);
+        if (!card || card->steps == 0 || card->landing) continue;
+        if (card->kind == MoveKind::Play || card->kind == MoveKind::Uncover) return card;
+    }
+    return nullptr;
+}
 
 void Motion::Cleared() {
     timer_.stop();
@@ -125,6 +142,7 @@ void Motion::ShowNextPlace() {
     const auto now = Steady::now();
     if (now - due_ > kTooLate) due_ = now;
     if (flight_.place == flight_.places) {
+        if (step.landing) sounds_.Play(*step.landing);
         steps_.pop_front();
         ShowUntilFlight();
         Q_EMIT Changed();
@@ -140,13 +158,16 @@ void Motion::ShowNextPlace() {
 void Motion::Finish() {
     if (!Showing()) return;
     timer_.stop();
-    const Sound* last = nullptr;
+    std::optional<Sound> last;
     const std::deque<Step> rest = std::exchange(steps_, {});
     for (const Step& step : rest) {
         if (const auto* sound = std::get_if<Sound>(&step)) {
-            last = sound;
-        } else {
-            Apply(step);
+            last = *sound;
+            continue;
+        }
+        Apply(step);
+        if (const auto* card = std::get_if<CardStep>(&step); card && card->landing) {
+            last = card->landing;
         }
     }
     if (last) sounds_.Play(*last);

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <variant>
 
 #include "engine/board/table.h"
@@ -57,6 +58,7 @@ private:
         KesCard card;
         int steps;  ///< 0: no flight
         MoveKind kind;
+        std::optional<Sound> landing = {};  ///< heard when the flight has ended
     };
     struct SlotStep {
         Cell cell;
@@ -75,6 +77,8 @@ private:
     };
 
     void Take(const Step& step);
+    /// The last flight of play that isn't heard yet, and behind which nothing is; nullptr without.
+    CardStep* SilentFlight();
     void Apply(const Step& step);
     /// Shows what takes no time, up to the next flight, which begins.
     void ShowUntilFlight();

@@ -10,25 +10,17 @@ namespace {
 
 constexpr std::string_view kDataSection = "Data";
 
-constexpr std::array kNumberKeys{
-    keys::Autoplay,     keys::ShowToolbar, keys::CardSpeed,  keys::UndoSpeed,
-    keys::UndoallSpeed, keys::ReplaySpeed, keys::SoundStart, keys::SoundCardDown,
-    keys::SoundCardUp,  keys::SoundUndo,   keys::SoundRedo,  keys::SoundAutoPlay,
-    keys::SoundWin,     keys::ShowTime,    keys::ShowScore,  keys::ShowMoves,
-    keys::BGIndex,      keys::RangeIndex,  keys::DeckIndex,  keys::Fade};
+constexpr std::array kPlainKeys{
+    keys::Autoplay,    keys::ShowToolbar, keys::CardSpeed, keys::UndoSpeed, keys::UndoallSpeed,
+    keys::ReplaySpeed, keys::ShowTime,    keys::ShowScore, keys::ShowMoves, keys::BGIndex,
+    keys::RangeIndex,  keys::DeckIndex,   keys::Fade};
 
-const NumberKey& SwitchOf(Sound event) {
-    switch (event) {
-        case Sound::Start: return keys::SoundStart;
-        case Sound::CardUp: return keys::SoundCardUp;
-        case Sound::CardDown: return keys::SoundCardDown;
-        case Sound::AutoPlay: return keys::SoundAutoPlay;
-        case Sound::Undo: return keys::SoundUndo;
-        case Sound::Redo: return keys::SoundRedo;
-        case Sound::Win: break;
-    }
-    return keys::SoundWin;
-}
+constexpr auto kNumberKeys = [] {
+    std::array<NumberKey, kPlainKeys.size() + kSoundCount> all;
+    auto next = std::copy(kPlainKeys.begin(), kPlainKeys.end(), all.begin());
+    for (const SoundRow& row : kSounds) *next++ = SwitchOf(row.Event);
+    return all;
+}();
 
 bool IsWholeNumber(std::string_view text) {
     if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);

@@ -32,13 +32,6 @@ inline constexpr NumberKey CardSpeed{"CardSpeed", 5};
 inline constexpr NumberKey UndoSpeed{"UndoSpeed", 5};
 inline constexpr NumberKey UndoallSpeed{"UndoallSpeed", 2};
 inline constexpr NumberKey ReplaySpeed{"ReplaySpeed", 7};
-inline constexpr NumberKey SoundStart{"SoundStart", -1};
-inline constexpr NumberKey SoundCardDown{"SoundCardDown", 0};
-inline constexpr NumberKey SoundCardUp{"SoundCardUp", 0};
-inline constexpr NumberKey SoundUndo{"SoundUndo", -1};
-inline constexpr NumberKey SoundRedo{"SoundRedo", -1};
-inline constexpr NumberKey SoundAutoPlay{"SoundAutoPlay", -1};
-inline constexpr NumberKey SoundWin{"SoundWin", -1};
 inline constexpr NumberKey ShowTime{"ShowTime", 1};
 inline constexpr NumberKey ShowScore{"ShowScore", 1};
 inline constexpr NumberKey ShowMoves{"ShowMoves", 1};
@@ -48,7 +41,12 @@ inline constexpr NumberKey DeckIndex{"DeckIndex", 531};
 inline constexpr NumberKey Fade{"Fade", 1};
 }  // namespace keys
 
-/// All of them, in the order of the settings.
+/// The switch of a sound: -1 on, 0 off.
+constexpr NumberKey SwitchOf(Sound event) {
+    return {RowOf(event).Switch, RowOf(event).On ? std::int16_t{-1} : std::int16_t{0}};
+}
+
+/// All of them, and the switches of the sounds.
 std::span<const NumberKey> NumberKeys();
 
 inline constexpr std::string_view kLastGNameKey = "LastGName";
@@ -113,6 +111,8 @@ public:
 
     /// Plays the event's sound if its switch is on.
     void PlaySound(Sound event);
+    /// Plays it whatever its switch says, for who wants to know how it sounds.
+    void TrySound(Sound event) { sounds_.Play(event); }
 
     // The game on the table. These stay readable after it has ended.
     DateTime SesStartTime;
