@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
@@ -45,7 +46,7 @@ PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
     setWindowTitle(QStringLiteral("Play from Favorites"));
     engine_.favorites().OpenFav();
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
-    imcGames_->setAccessibleName(QStringLiteral("Game"));
+    NamePurpose(*imcGames_, QStringLiteral("Game"));
 
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(cmdPlay_, QDialogButtonBox::AcceptRole);

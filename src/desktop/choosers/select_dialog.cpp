@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
@@ -32,7 +33,7 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     tree_->setHeaderHidden(true);
     tree_->setMinimumWidth(kTreeWidth);
     tree_->setAccessibleName(QStringLiteral("Games"));
-    players_->setAccessibleName(QStringLiteral("Player"));
+    NamePurpose(*players_, QStringLiteral("Player"));
     QFont large = name_->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     large.setBold(true);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/questions.h"
@@ -99,7 +100,7 @@ QWidget* GameStatDialog::MakeGames() {
     auto* column = new QVBoxLayout(page);
     lvGames_->SetIcon(SmallIcon(QStringLiteral("game")));
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
-    imcGames_->setAccessibleName(QStringLiteral("Game shown in the charts"));
+    NamePurpose(*imcGames_, QStringLiteral("Game shown in the charts"));
     connect(imcGames_, &QComboBox::activated, this, &GameStatDialog::ShowGame);
     column->addWidget(new ReportView(lvGames_, QStringLiteral("Games")), 1);
     column->addLayout(AtLeft(imcGames_));
@@ -111,7 +112,7 @@ QWidget* GameStatDialog::MakeDates() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
     for (const PeriodChoice& choice : PeriodChoices()) imcDate_->addItem(ToQt(choice.Text));
-    imcDate_->setAccessibleName(QStringLiteral("Time shown"));
+    NamePurpose(*imcDate_, QStringLiteral("Time shown"));
     connect(imcDate_, &QComboBox::activated, this, &GameStatDialog::ShowPeriods);
     auto* list = new ReportView(lvDate_, QStringLiteral("Days, months or years"));
     list->setFixedWidth(kDateWidth);
@@ -131,7 +132,7 @@ QWidget* GameStatDialog::MakePlayers() {
     auto* column = new QVBoxLayout(page);
     lvPlayer_->SetIcon(SmallIcon(QStringLiteral("player")));
     FillPlayers(*imcPlayer_, engine_.data());
-    imcPlayer_->setAccessibleName(QStringLiteral("Player shown in the charts"));
+    NamePurpose(*imcPlayer_, QStringLiteral("Player shown in the charts"));
     connect(imcPlayer_, &QComboBox::activated, this, &GameStatDialog::ShowPlayer);
     column->addWidget(new ReportView(lvPlayer_, QStringLiteral("Players")), 1);
     column->addLayout(AtLeft(imcPlayer_));

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "engine/reports/high_scores.h"
@@ -53,9 +54,9 @@ HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
     FillGames(*imcGames_, engine.data(), engine.data().CurGName());
     FillPlayers(*imcPlayer_, engine.data());
     for (const Ranking& ranking : kRankings) imcFin_->addItem(QString::fromLatin1(ranking.text));
-    imcGames_->setAccessibleName(QStringLiteral("Game"));
-    imcPlayer_->setAccessibleName(QStringLiteral("Player"));
-    imcFin_->setAccessibleName(QStringLiteral("Ranked by"));
+    NamePurpose(*imcGames_, QStringLiteral("Game"));
+    NamePurpose(*imcPlayer_, QStringLiteral("Player"));
+    NamePurpose(*imcFin_, QStringLiteral("Ranked by"));
 
     SSTab1_->addTab(MakeSheet(nullptr, lvTop_, QStringLiteral("Top games")),
                     QStringLiteral("Top Games"));

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
@@ -41,9 +42,9 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
     imcPlayer_->setCurrentIndex(0);
     imcGames_->setCurrentIndex(0);
     imcDate_->setCurrentIndex(imcDate_->count() - 1);
-    imcPlayer_->setAccessibleName(QStringLiteral("Player"));
-    imcGames_->setAccessibleName(QStringLiteral("Game"));
-    imcDate_->setAccessibleName(QStringLiteral("Time"));
+    NamePurpose(*imcPlayer_, QStringLiteral("Player"));
+    NamePurpose(*imcGames_, QStringLiteral("Game"));
+    NamePurpose(*imcDate_, QStringLiteral("Time"));
 
     FillLog();
     auto* filters = new QHBoxLayout;

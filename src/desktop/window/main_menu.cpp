@@ -1,6 +1,7 @@
 #include "desktop/window/main_menu.h"
 
 #include <QMenu>
+#include <QShortcut>
 #include <cstdlib>
 
 #include "desktop/platform/text.h"
@@ -17,6 +18,11 @@ MainMenu::MainMenu(QMenuBar& bar, Engine& engine, Shell& shell)
     BuildTools();
     BuildHelp();
     BuildCounters();
+    auto* open = new QShortcut(Qt::Key_F10, &bar_);
+    QObject::connect(open, &QShortcut::activated, &bar_, [this] {
+        shell_.Settle();
+        bar_.setActiveAction(bar_.actions().first());
+    });
 }
 
 template <typename Action>
@@ -156,7 +162,6 @@ void MainMenu::BuildCounters() {
     counters_->setContentsMargins(0, 0, 12, 0);
     counters_->setMinimumWidth(counters_->fontMetrics().horizontalAdvance(
         QStringLiteral("Score :-32768     Time :99:59:59     Moves :32767    ")));
-    counters_->setAccessibleName(QStringLiteral("Score, time and moves"));
     bar_.setCornerWidget(counters_, Qt::TopRightCorner);
 }
 

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QShortcut>
 
+#include "desktop/accessible/table_voice.h"
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/choosers/players_dialog.h"
@@ -46,6 +47,8 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     menu_ = std::make_unique<MainMenu>(*menuBar(), *engine_, static_cast<Shell&>(*this));
     toolbar_ = new Toolbar(*menu_, client);
     table_ = new TableView(motion_, *engine_, client);
+    table_->setFocus();
+    new TableVoice(motion_, *table_);  // the table's
 
     engine_->InitMain();
     menu_->UpdateMenus();

@@ -41,6 +41,7 @@ TableView::TableView(Motion& motion, Engine& engine, QWidget* parent)
     }
     zoom_.FitInto(Room(), kTablePixels);
     setAccessibleName(tr("Card table"));
+    setFocusPolicy(Qt::StrongFocus);  // for who follows the focus to hear what happens
     connect(&motion_, &Motion::Moved, this, [this] {
         const QRegion changed = ToWidget(TakeChanges());
         if (isVisible()) repaint(changed);
@@ -171,6 +172,11 @@ QPoint TableView::CardCentre(PicID id) const {
     const KesCard& card = engine_.table().Card(id);
     const QPointF twips(card.Left + kCardWidth / 2.0, card.Top + kCardHeight / 2.0);
     return (twips / kTwipsPerPixel * zoom_.Factor() + QPointF(TableCorner()) / Ratio()).toPoint();
+}
+
+QRect TableView::CardRect(double left, double top) {
+    const QRectF device = RectOnTable(Pictures(), left, top).translated(TableCorner());
+    return QRectF(device.topLeft() / Ratio(), device.size() / Ratio()).toRect();
 }
 
 TableView::Shown TableView::Look(const KesCard& card) {

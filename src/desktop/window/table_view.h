@@ -32,6 +32,9 @@ public:
     void RefreshDecks();
     /// The centre of the visible part of a card, in widget coordinates.
     QPoint CardCentre(PicID id) const;
+    /// Where a card is drawn whose place on the table is given in twips, in widget coordinates.
+    QRect CardRect(double left, double top);
+    const Engine& engine() const { return engine_; }
 
     QSize sizeHint() const override;
 
