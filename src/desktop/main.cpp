@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/accessible/windows.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/platform/session_end.h"
 #include "desktop/platform/settings_store.h"
@@ -27,11 +28,26 @@ void AfterScreen(QtMsgType type, const QMessageLogContext& context, const QStrin
     if (!ofSound) usualHandler(type, context, text);
 }
 
-/// Until the toolkit has a screen, only its last word counts: one sentence instead of its many.
-void BeforeScreen(QtMsgType type, const QMessageLogContext&, const QString&) {
+/// Until the toolkit has a screen its words are kept, and told when they explain why there is none.
+void BeforeScreen(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    static std::string reasons;
+    reasons.append("  ").append(text.toStdString()).append("\n");
     if (type != QtFatalMsg) return;
-    std::fputs("Varnello can't start: there is no graphical display that it can open.\n", stderr);
+    const bool display = qEnvironmentVariableIsSet("DISPLAY") ||
+                         qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    std::fputs(display ? "Varnello can't start: the toolkit can't use the display. It says:\n"
+                       : "Varnello can't start: there is no graphical display. The toolkit says:\n",
+               stderr);
+    std::fputs(reasons.c_str(), stderr);
     std::_Exit(1);
+}
+
+/// What the toolkit has left of the command line is nothing that anybody knows.
+bool RefuseUnknown(int argc, char** argv) {
+    if (argc < 2) return false;
+    std::fprintf(stderr, "Varnello doesn't know \"%s\"; see varnello --help.\n", argv[1]);
+    return true;
 }
 
 /// Answers what needs no display; whether it did.
@@ -60,12 +76,15 @@ int main(int argc, char** argv) {
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    if (RefuseUnknown(argc, argv)) return 2;
     qInstallMessageHandler(AfterScreen);
     QApplication::setApplicationName(ToQt(kProductName));
     QApplication::setApplicationVersion(ToQt(kVersion));
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setDesktopFileName(QStringLiteral("varnello"));
     QApplication::setQuitOnLastWindowClosed(false);
+
+    DescribeWindows();
 
     FileSettings settings;
     SystemClock clock;

@@ -21,6 +21,7 @@ MODULES/varnello-charts.so
 MODULES/varnello-sound.so
 $icons
 share/icons/hicolor/scalable/apps/varnello.svg
+share/icons/hicolor/symbolic/apps/varnello-symbolic.svg
 share/applications/varnello.desktop
 share/metainfo/org.varnello.varnello.metainfo.xml
 share/man/man6/varnello.6
