@@ -95,7 +95,8 @@ int main(int argc, char** argv) {
     });
     Report("export", [&] {
         std::ostringstream out;
-        WriteStat(out, score, data, clock.Now(), dates);
+        Progress unseen;
+        WriteStat(out, engine.results().PrepareExport({}), score.List(), unseen, 0);
     });
     return 0;
 }

@@ -17,4 +17,4 @@ for kind in dso symbol; do
 done
 echo "== modules loaded"
 strace -f -e trace=openat -o "$home/files" timeout 4 "$program" >/dev/null 2>&1 || true
-grep -E 'varnello-(charts|sound)|Qt6(Charts|Multimedia)' "$home/files" | grep -v ENOENT || echo none
+grep -E 'varnello-sound|Qt6Multimedia' "$home/files" | grep -v ENOENT || echo none

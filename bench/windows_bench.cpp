@@ -10,6 +10,7 @@
 #include "desktop/reports/game_stat_dialog.h"
 #include "desktop/reports/high_score_dialog.h"
 #include "desktop/reports/log_dialog.h"
+#include "desktop/reports/scores_access.h"
 #include "engine/null_desktop.h"
 
 // varnello-windows-bench FOLDER: how long the result windows take from the click to a painted
@@ -35,7 +36,12 @@ void Measure(const char* name, Engine& engine) {
     for (int round = 0; round < 5; ++round) {
         std::unique_ptr<Dialog> dialog;
         openings.push_back(Milliseconds([&] {
-            dialog = std::make_unique<Dialog>(engine, nullptr);
+            OpenScores(engine, nullptr);
+            if constexpr (std::is_same_v<Dialog, HighScoreDialog>) {
+                dialog = std::make_unique<Dialog>(engine, false, nullptr);
+            } else {
+                dialog = std::make_unique<Dialog>(engine, nullptr);
+            }
             dialog->show();
         }));
         if (round > 0) continue;
@@ -56,6 +62,7 @@ void Measure(const char* name, Engine& engine) {
                                            view->sortByColumn(column, Qt::DescendingOrder);
                                        }));
             }
+            view->sortByColumn(-1, Qt::AscendingOrder);  // or the next one opens sorted
         }
     }
     const double first = openings.front();

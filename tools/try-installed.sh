@@ -96,7 +96,7 @@ for i in "${!drops[@]}"; do
     until_true 10 still
 done
 until_true 20 active Congrats
-until_true 10 loaded varnello-charts
+until_true 10 loaded varnello-sound
 until_true 10 still
 picture won
 grep -q '"Stripped Freecell","6",.*,1' "$XDG_DATA_HOME/Varnello/Player1.sre" || fail "No result was written."

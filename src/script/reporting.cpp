@@ -58,7 +58,7 @@ void PrintLogReport(std::ostream& out, const Engine& engine, std::string_view ke
     const ScoreList& list = engine.score().List();
     for (const std::uint32_t position : LogPositions(list, filter, engine.Now())) {
         const auto number = static_cast<double>(rows.size() + 1);
-        rows.push_back(RowOf(list.Record(position), number, kLogFields, engine.dates()));
+        rows.push_back(RowOf(list.Record(position), number, kLogColumns, engine.dates()));
     }
     PrintRows(out, "entry: ", rows);
 }
@@ -68,7 +68,7 @@ void PrintSession(std::ostream& out, const Engine& engine) {
     for (const std::string& label : GameLabelsOf(engine).InOrder()) {
         out << "session: " << label << '\n';
     }
-    PrintRows(out, "row: ", SessionRows(engine));
+    PrintRows(out, "row: ", SessionRows(engine, kSessionColumns));
 }
 
 FinishedBy Ranking(std::string_view word) {
@@ -117,20 +117,20 @@ bool ScriptedTable::ReportGames(std::string_view what, Words& words) {
     cScore& score = engine_.score();
     const DateForms& dates = engine_.dates();
     if (what == "game-chart") {
-        for (const auto& [points, moves, time] : FirstGames(score, words.Game())) {
-            out_ << "chart: " << points << '|' << moves << '|' << time << '\n';
+        for (const ScoreRecord& game : FirstGames(score, words.Game())) {
+            out_ << "chart: " << game.Score << '|' << game.Moves << '|' << game.Time << '\n';
         }
     } else if (what == "top") {
         words.End();
-        PrintRows(out_, "top: ", TopRows(score, dates));
+        PrintRows(out_, "top: ", TopRows(score, dates).Rows);
     } else if (what == "top-game") {
-        PrintRows(out_, "top: ", TopRowsOfGame(score, words.Game(), dates));
+        PrintRows(out_, "top: ", TopRowsOfGame(score, words.Game(), dates).Rows);
     } else if (what == "top-player") {
-        PrintRows(out_, "top: ", TopRowsOfPlayer(score, words.Rest(), dates));
+        PrintRows(out_, "top: ", TopRowsOfPlayer(score, words.Rest(), dates).Rows);
     } else if (what == "finished") {
         const FinishedBy by = Ranking(words.Word());
         words.End();
-        PrintRows(out_, "finished: ", FinishedRows(score, by, dates));
+        PrintRows(out_, "finished: ", FinishedRows(score, by, dates).Rows);
     } else if (what == "log") {
         const std::string_view key = words.Word();
         PrintLogReport(out_, engine_, key, words.Rest());

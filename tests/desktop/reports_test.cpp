@@ -1,3 +1,5 @@
+#include <QAbstractItemModelTester>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -5,6 +7,7 @@
 #include <QPushButton>
 #include <fstream>
 
+#include "desktop/choosers/number_dialog.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/reports/game_stat_dialog.h"
 #include "desktop/reports/high_score_dialog.h"
@@ -97,6 +100,90 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().score().ScoreTop(), 0);
     }
 
+    void TheLogAddsUpCopiesAndOpensAsItWasLeft() {
+        ResultsFixture fixture(kLines);
+        WhenOpen<LogDialog>([](LogDialog& dialog) {
+            Captioned<QLabel>(dialog, "3 games, 2 won (66.7%)   Time: 0:18:49   Best score: 80");
+            auto* log = Named<ReportView>(dialog, "Log");
+            const QAbstractItemModelTester tester(log->model());
+            QCOMPARE(log->CurrentRow(), 0);  // the newest
+            QApplication::clipboard()->setText("kept");
+            QTest::keySequence(log, QKeySequence::Copy);
+            QCOMPARE(QApplication::clipboard()->text(), "kept");
+            log->selectRow(1);
+            QTest::keySequence(log, QKeySequence::Copy);
+            QVERIFY(QApplication::clipboard()->text().startsWith("2\tPlayer1\tFreecell\t80\t"));
+            Choose(*Named<QComboBox>(dialog, "Game"), "Penguin");
+            Captioned<QLabel>(dialog, "1 game, 1 won (100.0%)   Time: 0:16:40   Best score: 9");
+            log->sortByColumn(3, Qt::DescendingOrder);
+            log->horizontalHeader()->resizeSection(1, 222);
+            Choose(*Named<QComboBox>(dialog, "Game"), "All Games");
+            dialog.resize(600, 444);
+            QCOMPARE(log->columnWidth(1), 222);
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(6)->trigger();
+        WhenOpen<LogDialog>([](LogDialog& dialog) {
+            auto* log = Named<ReportView>(dialog, "Log");
+            QCOMPARE(dialog.size(), QSize(600, 444));
+            QCOMPARE(log->columnWidth(1), 222);
+            QCOMPARE(ColumnTexts(*log, 3), (QStringList{"80", "50", "9"}));
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(6)->trigger();
+        const std::string odd = "size=99999 1;log=1 x;;=;log";
+        fixture.settings.Write("Windows", "LogStatistics", odd);
+        WhenOpen<LogDialog>([](LogDialog& dialog) {
+            QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(6)->trigger();
+    }
+
+    void ADealIsPlayedAgainThroughTheNumberChooser() {
+        ResultsFixture fixture(kLines);
+        const auto choose = [](bool accept) {
+            WhenOpen<NumberDialog>([accept](NumberDialog& chooser) {
+                QCOMPARE(chooser.number()->text(), "012");
+                QCOMPARE(chooser.findChild<QComboBox*>()->currentText(), "Freecell");
+                if (accept) return Captioned(chooser, "Select")->click();
+                chooser.reject();
+            });
+        };
+        WhenOpen<LogDialog>([&](LogDialog& dialog) {
+            auto* log = Named<ReportView>(dialog, "Log");
+            log->selectRow(1);
+            choose(false);
+            QTest::keyClick(log, Qt::Key_Return);
+            QVERIFY2(dialog.isVisible(), "a slip loses nothing");
+            choose(true);
+            QTest::mouseDClick(log->viewport(), Qt::LeftButton, {},
+                               log->visualRect(log->model()->index(1, 3)).center());
+            QVERIFY(dialog.isVisible());
+        });
+        fixture.window.menu().mStat(6)->trigger();
+        QCOMPARE(fixture.engine().data().CurGName(), std::string("Freecell"));
+        QCOMPARE(fixture.engine().data().CurGNo.Shown(), std::string("012"));
+    }
+
+    void RowsChooseTheChartsAndTellTheirGames() {
+        ResultsFixture fixture(kLines);
+        WhenOpen<GameStatDialog>([&](GameStatDialog& dialog) {
+            auto* games = Named<ReportView>(dialog, "Games");
+            games->ShowRow(fixture.engine().data().GetGameID("Penguin") - 1);
+            QCOMPARE(Named<QComboBox>(dialog, "Game shown in the charts")->currentText(),
+                     "Penguin");
+            auto* chart = Named<Chart>(dialog, "Won and lost of the game");
+            QVERIFY(chart->accessibleDescription().contains("Won : 1"));
+            Captioned<QLabel>(dialog, "Penguin won in a row by Player1: 1 now, 1 at best");
+            Choose(*Named<QComboBox>(dialog, "Game shown in the charts"), "Avenue");
+            QCOMPARE(games->CurrentRow(), 0);
+            Captioned<QLabel>(dialog, "Avenue is waiting for its first game.");
+            dialog.reject();
+        });
+        fixture.window.menu().mStat(1)->trigger();
+    }
+
     void StatisticsKeepTheirFiguresWhenClearedAndReloadAfterAnExport() {
         ResultsFixture fixture(kLines);
         const QString file = fixture.folder.path() + "/board";
@@ -168,9 +255,9 @@ private Q_SLOTS:
             QTRY_COMPARE(CellText(*games, 1, 6), "-20");
             QCOMPARE(games->currentIndex().row(), 1);
             auto* chart = Named<Chart>(dialog, "Score, moves and time game by game");
-            QVERIFY(!chart->accessibleDescription().contains("60"));
+            QVERIFY(!chart->accessibleDescription().contains("0:01:00"));
             Captioned(dialog, "Refresh Chart")->click();
-            QVERIFY(chart->accessibleDescription().contains("60"));
+            QVERIFY(chart->accessibleDescription().contains("0:01:00"));
             Captioned<QLabel>(dialog, "Score : -20");
             Captioned<QLabel>(dialog, "Games Played : 1");
         });
@@ -192,6 +279,7 @@ private Q_SLOTS:
             Captioned(finish, "Statistics")->click();
             WhenOpen<HighScoreDialog>([](HighScoreDialog& dialog) {
                 QCOMPARE(CellText(*Named<ReportView>(dialog, "Top games"), 0, 3), "77");
+                QCOMPARE(Named<ReportView>(dialog, "Top games")->CurrentRow(), 0);
                 dialog.reject();
             });
             Captioned(finish, "High Score")->click();

@@ -6,6 +6,7 @@
 #include "engine/reports/high_scores.h"
 #include "engine/reports/log_report.h"
 #include "engine/reports/statistics.h"
+#include "engine/reports/wins.h"
 #include "fixture.h"
 
 // What the result windows show, worked out from score files.
@@ -72,7 +73,7 @@ TEST_F(Reports, FirstFiftyGamesAreChartedAsTheyWere) {
     Write(games);
     const auto charted = FirstGames(engine.score(), "Freecell");
     ASSERT_EQ(charted.size(), 50U);
-    EXPECT_EQ(charted.back(), (GameFigures{-50, 50, 100}));
+    EXPECT_EQ(charted.back().Score, -50);
     EXPECT_TRUE(FirstGames(engine.score(), "Avenue").empty());
 }
 
@@ -124,7 +125,7 @@ TEST_F(Reports, LaterOfEqualScoresRanksHigherAndTwentyHaveRoom) {
 TEST_F(Reports, FinishedGamesRankByWhatIsAskedFor) {
     Write({Game(5, 30, 10), Game(9, 20, 40), Game(7, 10, 20)});
     const auto best = [&](FinishedBy by) {
-        return Line(FinishedRows(engine.score(), by, engine.dates()), 0);
+        return Line(FinishedRows(engine.score(), by, engine.dates()).Rows, 0);
     };
     EXPECT_EQ(best(FinishedBy::Score), "1|Player1|Freecell|9|0:00:40|20|1/31/2026|7|");
     EXPECT_EQ(best(FinishedBy::Moves), "1|Player1|Freecell|7|0:00:20|10|1/31/2026|7|");
@@ -248,6 +249,41 @@ TEST_F(Reports, ExportIsSilentWhenItCanNotBe) {
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "no folder"));
 }
 
+TEST_F(Reports, AStoppedExportChangesNothing) {
+    Write({Game(1), Game(2)});
+    const auto target = folder.Path() / "report";
+    WriteFile(target, "old");
+    StatExport report = engine.results().PrepareExport({target, "report"});
+    Progress stopped;
+    stopped.Stopped = true;
+    EXPECT_FALSE(report.Run(stopped));
+    EXPECT_EQ(ReadFile(target), "old");
+    EXPECT_FALSE(std::filesystem::exists(target.string() + ".part"));
+    Progress progress;
+    EXPECT_TRUE(report.Run(progress));
+    EXPECT_GT(ReadFile(target).size(), 1000U);
+    EXPECT_LE(progress.Done, report.Whole());
+}
+
+TEST_F(Reports, WinsInARowAndAPlaceAmongThem) {
+    const auto won = [](int time) { return Game(1, 1, time); };
+    Write({won(10), won(20), Game(1, 1, 5, 0), won(15), won(30)});
+    EXPECT_EQ(engine.score().PlayerStreak("Player1"), (Streak{2, 2}));
+    EXPECT_EQ(engine.score().PlayerStreak("Player1", "Freecell"), (Streak{2, 2}));
+    EXPECT_EQ(engine.score().PlayerStreak("Player1", "Avenue"), (Streak{0, 0}));
+    ScoreRecord last = won(30);
+    last.Player = "Player1";
+    EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last)), "Your 4th fastest of 4");
+    last.Time = 31;
+    EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last)), "") << "it isn't booked";
+    for (const auto& [place, text] : {std::pair{1, "Your fastest of 30"},
+                                      {2, "Your 2nd fastest of 30"},
+                                      {12, "Your 12th fastest of 30"},
+                                      {23, "Your 23rd fastest of 30"}}) {
+        EXPECT_EQ(PlaceText({.Others = std::vector<ScoreRecord>(29), .Place = place}), text);
+    }
+}
+
 TEST_F(Reports, SessionShowsTheRunningGameLast) {
     EXPECT_EQ(GameLabelsOf(engine).Started, "Game Started : ");
     engine.data().Set(keys::Autoplay, 0);
@@ -257,11 +293,11 @@ TEST_F(Reports, SessionShowsTheRunningGameLast) {
     engine.life().StartGame("Zodiac", GameNumber::Text("012"));
     clock.Advance(90);
     engine.counters().TimeTick();
-    const auto rows = SessionRows(engine);
+    const auto rows = SessionRows(engine, kSessionColumns);
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(Line(rows, 0), "Freecell|5|Player1|0:00:00|0|Lost|0|");
     EXPECT_EQ(Line(rows, 1), "Zodiac|012|Player1|0:01:30|0|Running|80|");
-    EXPECT_EQ(Line(DetailRows(engine), 1), "2|0:01:30|0|80|");
+    EXPECT_EQ(Line(SessionRows(engine, kDetailColumns), 1), "2|0:01:30|0|80|");
     EXPECT_EQ(SessionLabels(engine)[1], "Games Played : 1") << "the running game doesn't count";
     engine.commands().CloseGame();
     EXPECT_EQ(GameLabelsOf(engine).Time, "Time Elapsed : 0:01:30") << "the last figures stay";

@@ -17,7 +17,6 @@ icons=$(printf 'share/icons/hicolor/%s/apps/varnello.png\n' {16x16,22x22,24x24,3
 wanted=$(LC_ALL=C sort <<END
 PROGRAMS/varnello
 PROGRAMS/varnello-script
-MODULES/varnello-charts.so
 MODULES/varnello-sound.so
 $icons
 share/icons/hicolor/scalable/apps/varnello.svg

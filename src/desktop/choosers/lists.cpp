@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desktop/appearance/game_mark.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/platform/text.h"
 
@@ -19,8 +20,10 @@ void Select(QComboBox& combo, const std::string& text) {
 
 void FillGames(QComboBox& combo, const cData& data, const std::string& selected) {
     for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
-        combo.addItem(SmallIcon(QStringLiteral("game")), ToQt(data.GetGName(id)));
+        const std::string name = data.GetGName(id);
+        combo.addItem(GameMark(name), ToQt(name));
     }
+    combo.setIconSize(kGameMarkSize);
     Select(combo, selected);
 }
 

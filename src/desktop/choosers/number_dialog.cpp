@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/choosers/lists.h"
 #include "desktop/choosers/one_line_validator.h"
@@ -56,6 +57,12 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     number_->selectAll();
     number_->setFocus();
+}
+
+void NumberDialog::Propose(const GameChoice& deal) {
+    games_->setCurrentIndex(std::max(games_->findText(ToQt(deal.Game)), 0));
+    if (deal.Number) number_->setText(ToQt(deal.Number->Shown()));
+    number_->selectAll();
 }
 
 void NumberDialog::Select() {

@@ -16,6 +16,8 @@ class NumberDialog : public QDialog {
 public:
     NumberDialog(Engine& engine, QWidget* parent);
 
+    /// Fills in a deal: a person wants to play it again.
+    void Propose(const GameChoice& deal);
     /// What was chosen; nothing when the dialog was cancelled.
     const std::optional<GameChoice>& Choice() const { return choice_; }
 

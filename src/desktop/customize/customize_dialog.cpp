@@ -10,6 +10,7 @@
 #include "desktop/appearance/colours.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
+#include "desktop/reports/scores_access.h"
 
 namespace varnello {
 namespace {
@@ -154,9 +155,7 @@ QWidget* CustomizeDialog::MakeStatistics() {
     auto* row = new QHBoxLayout(frame);
     auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
     exportStat->setAutoDefault(false);
-    connect(exportStat, &QPushButton::clicked, this, [this] {
-        if (const auto file = AskForReportFile(this)) engine_.results().ExportStat(*file);
-    });
+    connect(exportStat, &QPushButton::clicked, this, [this] { ExportScores(engine_, this); });
     auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
     clearStat->setAutoDefault(false);
     connect(clearStat, &QPushButton::clicked, this, [this] {

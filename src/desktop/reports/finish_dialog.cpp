@@ -3,11 +3,15 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/appearance/icons.h"
+#include "desktop/appearance/pictures.h"
+#include "desktop/charts/totals_chart.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/report_charts.h"
 
@@ -15,7 +19,25 @@ namespace varnello {
 namespace {
 
 constexpr int kListWidth = 247;  // pixels
-constexpr QSize kChartSize(330, 240);
+constexpr int kListRoom = 18;    // pixels for a list's frame and margins
+constexpr QSize kChartSize(330, 220);
+constexpr double kPlaceSize = 1.25;         // of the dialog's font
+constexpr double kCardScale = 1.5;          // of a card on the table
+constexpr std::size_t kMostCompared = 200;  // earlier wins in the chart
+
+/// One of the twelve court cards, another one for another deal.
+QPixmap CourtCard(const FinishFigures& figures, double ratio) {
+    const auto draw = static_cast<std::size_t>(figures.Time + figures.Moves);
+    constexpr int kRanks = 13;
+    constexpr int kJack = 11;
+    const int suit = static_cast<int>(draw % 4);
+    const int court = static_cast<int>(draw / 4 % 3);
+    const CardPictures pictures(ratio * kCardScale);
+    const CardPictures::Part part = pictures.MainPic(suit * kRanks + kJack + court);
+    QPixmap card = QPixmap::fromImage(part.sheet->copy(part.rect));
+    card.setDevicePixelRatio(ratio);
+    return card;
+}
 
 /// A button that shows when it has the focus, and that Enter presses as Space does.
 class CommandButton : public QToolButton {
@@ -37,11 +59,12 @@ protected:
 
 }  // namespace
 
-FinishDialog::FinishDialog(const FinishFigures& figures, QWidget* parent) : QDialog(parent) {
+FinishDialog::FinishDialog(const FinishFigures& figures, const OwnWins& wins, QWidget* parent)
+    : QDialog(parent) {
     setWindowTitle(QStringLiteral("Congrats"));
     auto* all = new QVBoxLayout(this);
     all->addWidget(MakeToolbar());
-    all->addWidget(MakeResult(figures));
+    all->addWidget(MakeResult(figures, wins));
     newGame_->setFocus();  // now that it stands in a window
 }
 
@@ -79,22 +102,53 @@ QWidget* FinishDialog::MakeToolbar() {
     return strip;
 }
 
-QWidget* FinishDialog::MakeResult(const FinishFigures& figures) {
+QWidget* FinishDialog::MakeResult(const FinishFigures& figures, const OwnWins& wins) {
     auto* frame = new QGroupBox(ToQt(figures.Game));
     auto* row = new QHBoxLayout(frame);
+    row->setSpacing(16);
+
+    auto* card = new QLabel;
+    card->setPixmap(CourtCard(figures, devicePixelRatioF()));
+    row->addWidget(card, 0, Qt::AlignCenter);
 
     auto* list = new QListWidget;
     for (const std::string& line : figures.Lines) list->addItem(ToQt(line));
-    list->setFixedWidth(kListWidth);
-    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setSpacing(3);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setFocusPolicy(Qt::NoFocus);
     list->setAccessibleName(QStringLiteral("Result"));
-    row->addWidget(list);
+    list->setFixedWidth(std::max(kListWidth, list->sizeHintForColumn(0) + kListRoom));
+    const int lines = static_cast<int>(figures.Lines.size());
+    list->setFixedHeight(lines * (list->sizeHintForRow(0) + 2 * list->spacing()) +
+                         2 * list->frameWidth());
+    auto* place = new QLabel(ToQt(PlaceText(wins)));
+    QFont large = place->font();
+    large.setPointSizeF(large.pointSizeF() * kPlaceSize);
+    large.setBold(true);
+    place->setFont(large);
+    place->setAlignment(Qt::AlignCenter);
+    auto* told = new QVBoxLayout;
+    told->addStretch();
+    told->addWidget(list);
+    if (!place->text().isEmpty()) {
+        told->addSpacing(8);
+        told->addWidget(place);
+    }
+    told->addStretch();
+    row->addLayout(told);
 
-    Chart* chFin = MakeChart(ChartKind::Totals, QStringLiteral("Score, moves and time as columns"));
+    auto* chFin = new TotalsChart(QStringLiteral("Score, moves and time"));
     chFin->setMinimumSize(kChartSize);
-    ShowTotals(*chFin, figures.Score, figures.Moves, figures.Time);
-    row->addWidget(chFin);
+    ChartTable table = TotalsTable(
+        {.Played = 1, .Score = figures.Score, .Moves = figures.Moves, .Time = figures.Time});
+    const std::size_t first = wins.Others.size() - std::min(wins.Others.size(), kMostCompared);
+    for (std::size_t i = first; i < wins.Others.size(); ++i) {
+        const ScoreRecord& other = wins.Others[i];
+        table.rows.push_back(TotalsRow({other.Score, other.Moves, other.Time}));
+    }
+    chFin->Show(table);
+    row->addWidget(chFin, 1);
     return frame;
 }
 

@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "engine/flow/engine.h"
+#include "engine/reports/wins.h"
 
 namespace varnello {
 
@@ -15,7 +16,7 @@ class FinishDialog : public QDialog {
     Q_OBJECT
 
 public:
-    FinishDialog(const FinishFigures& figures, QWidget* parent);
+    FinishDialog(const FinishFigures& figures, const OwnWins& wins, QWidget* parent);
 
     FinishChoice Choice() const { return choice_; }
 
@@ -26,7 +27,7 @@ Q_SIGNALS:
 
 private:
     QWidget* MakeToolbar();
-    QWidget* MakeResult(const FinishFigures& figures);
+    QWidget* MakeResult(const FinishFigures& figures, const OwnWins& wins);
 
     FinishChoice choice_ = FinishChoice::Close;
     QToolButton* newGame_ = nullptr;

@@ -6,22 +6,31 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "desktop/accessible/label.h"
+#include "desktop/appearance/game_mark.h"
 #include "desktop/appearance/icons.h"
+#include "desktop/charts/row_chart.h"
+#include "desktop/charts/share_chart.h"
+#include "desktop/charts/totals_chart.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
+#include "desktop/reports/scores_access.h"
 
 namespace varnello {
 namespace {
 
 constexpr QSize kSize(900, 680);
 constexpr int kGeneralWidth = 270;  // pixels
+constexpr int kListRoom = 36;       // pixels for a list's frame, margins and scroll bar
 constexpr int kDateWidth = 300;
 
-std::vector<Column> PeriodColumns() {
-    return {{"Day", ColumnKind::Label}, {"Played", ColumnKind::Value}, {"Won", ColumnKind::Value}};
-}
+const QString kNothing =
+    QStringLiteral("Nothing played yet. Finish your first game, and its story begins here.");
+const QString kNothingThen = QStringLiteral("No game was finished in this time.");
 
 template <std::size_t N>
 RowsModel* NewModel(const std::array<Column, N>& columns) {
@@ -29,11 +38,32 @@ RowsModel* NewModel(const std::array<Column, N>& columns) {
 }
 
 /// Two charts side by side, the wider one at the right.
-QHBoxLayout* Beside(QWidget* left, QWidget* right) {
+ChartArea* Beside(Chart* left, Chart* right) {
     auto* row = new QHBoxLayout;
     row->addWidget(left, 2);
     row->addWidget(right, 3);
-    return row;
+    return new ChartArea(row);
+}
+
+ChartArea* Below(Chart* upper, Chart* lower) {
+    auto* column = new QVBoxLayout;
+    column->addWidget(upper, 4);
+    column->addWidget(lower, 5);
+    return new ChartArea(column);
+}
+
+/// A quiet line below a list.
+QLabel* Line() {
+    auto* line = new QLabel;
+    line->setTextFormat(Qt::PlainText);
+    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    line->setWordWrap(true);
+    return line;
+}
+
+void Tell(QLabel& line, const QString& what, const Streak& streak) {
+    line.setText(
+        QStringLiteral("%1: %2 now, %3 at best").arg(what).arg(streak.Now).arg(streak.Best));
 }
 
 QHBoxLayout* AtLeft(QWidget* combo) {
@@ -51,20 +81,28 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
       SSTab1_(new QTabWidget),
       lvGeneral_(new QListWidget),
       lvGames_(NewModel(kGameColumns)),
-      lvDate_(new RowsModel(PeriodColumns())),
+      lvDate_(NewModel(PeriodColumns(PeriodChoices().front()))),
       lvPlayer_(NewModel(kPlayerColumns)),
+      gamesView_(new ReportView(lvGames_, QStringLiteral("Games"))),
+      playersView_(new ReportView(lvPlayer_, QStringLiteral("Players"))),
       imcGames_(new QComboBox),
       imcDate_(new QComboBox),
       imcPlayer_(new QComboBox),
-      chGen_(MakeChart(ChartKind::Share, QStringLiteral("Games won and lost"))),
-      chGen1_(MakeChart(ChartKind::Totals, QStringLiteral("Total score, moves and time"))),
-      chGames_(MakeChart(ChartKind::Share, QStringLiteral("Won and lost of the game"))),
-      chGames1_(MakeChart(ChartKind::Rows, QStringLiteral("The first games one by one"))),
-      chDate_(MakeChart(ChartKind::Rows, QStringLiteral("Played and won over time"))),
-      chDate1_(MakeChart(ChartKind::Rows, QStringLiteral("Score, moves and time over time"))),
-      chPlayer_(MakeChart(ChartKind::Share, QStringLiteral("Won and lost of the player"))),
-      chPlayer1_(
-          MakeChart(ChartKind::Totals, QStringLiteral("Score, moves and time of the player"))) {
+      chGen_(new ShareChart(QStringLiteral("Games won and lost"))),
+      chGen1_(new TotalsChart(QStringLiteral("Total score, moves and time"))),
+      chGames_(new ShareChart(QStringLiteral("Won and lost of the game"))),
+      chGames1_(new RowChart(QStringLiteral("The first games one by one"))),
+      chDate_(new RowChart(QStringLiteral("Played and won over time"))),
+      chDate1_(new RowChart(QStringLiteral("Score, moves and time over time"))),
+      chPlayer_(new ShareChart(QStringLiteral("Won and lost of the player"))),
+      chPlayer1_(new TotalsChart(QStringLiteral("Score, moves and time of the player"))),
+      generalCharts_(Below(chGen_, chGen1_)),
+      gameCharts_(Beside(chGames_, chGames1_)),
+      dateCharts_(Below(chDate_, chDate1_)),
+      playerCharts_(Beside(chPlayer_, chPlayer1_)),
+      generalStreak_(Line()),
+      gameStreak_(Line()),
+      playerStreak_(Line()) {
     setWindowTitle(QStringLiteral("Game Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
     SSTab1_->addTab(MakeGeneral(), QStringLiteral("General Summary"));
@@ -74,9 +112,17 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(MakeButtons());
-    resize(kSize);
-    engine_.results().OpenScores();
-    Fill();
+
+    FillGeneral();
+    lvGames_->SetRows(GameRows(engine_.score(), engine_.data()));
+    lvPlayer_->SetRows(PlayerRows(engine_.score(), engine_.data()));
+    auto* memory = new WindowMemory(this, engine_.data().Store(), "GameStatistics", kSize);
+    memory->Keep(SSTab1_);
+    gamesView_->Remember(*memory, "games");
+    playersView_->Remember(*memory, "players");
+    ShowGame();
+    ShowPeriods();
+    ShowPlayer();
 }
 
 GameStatDialog::~GameStatDialog() { engine_.score().CloseScore(); }
@@ -84,27 +130,34 @@ GameStatDialog::~GameStatDialog() { engine_.score().CloseScore(); }
 QWidget* GameStatDialog::MakeGeneral() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    lvGeneral_->setFixedWidth(kGeneralWidth);
     lvGeneral_->setSpacing(5);
     lvGeneral_->setAccessibleName(QStringLiteral("General summary"));
-    auto* charts = new QVBoxLayout;
-    charts->addWidget(chGen_);
-    charts->addWidget(chGen1_);
-    row->addWidget(lvGeneral_);
-    row->addLayout(charts);
+    auto* left = new QVBoxLayout;
+    left->addWidget(lvGeneral_);
+    left->addWidget(generalStreak_);
+    row->addLayout(left);
+    row->addWidget(generalCharts_, 1);
     return page;
 }
 
 QWidget* GameStatDialog::MakeGames() {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    lvGames_->SetIcon(SmallIcon(QStringLiteral("game")));
+    lvGames_->SetIcons(
+        [this](int row) { return GameMark(engine_.data().GetGName(Narrow16(row + 1))); });
+    gamesView_->setIconSize(kGameMarkSize);
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
     NamePurpose(*imcGames_, QStringLiteral("Game shown in the charts"));
     connect(imcGames_, &QComboBox::activated, this, &GameStatDialog::ShowGame);
-    column->addWidget(new ReportView(lvGames_, QStringLiteral("Games")), 1);
+    connect(gamesView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
+        if (gamesView_->CurrentRow() < 0) return;
+        imcGames_->setCurrentIndex(gamesView_->CurrentRow());
+        ShowGame();
+    });
+    column->addWidget(gamesView_, 1);
+    column->addWidget(gameStreak_);
     column->addLayout(AtLeft(imcGames_));
-    column->addLayout(Beside(chGames_, chGames1_), 1);
+    column->addWidget(gameCharts_, 1);
     return page;
 }
 
@@ -119,24 +172,27 @@ QWidget* GameStatDialog::MakeDates() {
     auto* left = new QVBoxLayout;
     left->addWidget(imcDate_);
     left->addWidget(list);
-    auto* charts = new QVBoxLayout;
-    charts->addWidget(chDate_);
-    charts->addWidget(chDate1_);
     row->addLayout(left);
-    row->addLayout(charts, 1);
+    row->addWidget(dateCharts_, 1);
     return page;
 }
 
 QWidget* GameStatDialog::MakePlayers() {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    lvPlayer_->SetIcon(SmallIcon(QStringLiteral("player")));
+    lvPlayer_->SetIcons([](int) { return SmallIcon(QStringLiteral("player")); });
     FillPlayers(*imcPlayer_, engine_.data());
     NamePurpose(*imcPlayer_, QStringLiteral("Player shown in the charts"));
     connect(imcPlayer_, &QComboBox::activated, this, &GameStatDialog::ShowPlayer);
-    column->addWidget(new ReportView(lvPlayer_, QStringLiteral("Players")), 1);
+    connect(playersView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
+        if (playersView_->CurrentRow() < 0) return;
+        imcPlayer_->setCurrentIndex(playersView_->CurrentRow());
+        ShowPlayer();
+    });
+    column->addWidget(playersView_, 1);
+    column->addWidget(playerStreak_);
     column->addLayout(AtLeft(imcPlayer_));
-    column->addLayout(Beside(chPlayer_, chPlayer1_), 1);
+    column->addWidget(playerCharts_, 1);
     return page;
 }
 
@@ -154,64 +210,85 @@ QWidget* GameStatDialog::MakeButtons() {
     connect(cmdClear, &QPushButton::clicked, this, [this] {
         if (AskYesNo(this, kClearStatQuestion)) engine_.results().ClearStat();
     });
-    connect(cmdExport, &QPushButton::clicked, this, &GameStatDialog::Export);
+    connect(cmdExport, &QPushButton::clicked, this, [this] { ExportScores(engine_, this); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
-}
-
-void GameStatDialog::Fill() {
-    FillGeneral();
-    lvGames_->SetRows(GameRows(engine_.score(), engine_.data()));
-    ShowGame();
-    ShowPeriods();
-    lvPlayer_->SetRows(PlayerRows(engine_.score(), engine_.data()));
-    ShowPlayer();
 }
 
 void GameStatDialog::FillGeneral() {
     const ScoreSummary summary = engine_.score().AllSummary();
     lvGeneral_->clear();
     for (const std::string& line : GeneralLines(summary)) lvGeneral_->addItem(ToQt(line));
-    ShowShare(*chGen_, summary);
-    ShowTotals(*chGen1_, summary.Score, summary.Moves, summary.Time);
+    lvGeneral_->setFixedWidth(
+        std::max(kGeneralWidth, lvGeneral_->sizeHintForColumn(0) + kListRoom));
+    chGen_->Show(ShareTable(summary));
+    chGen1_->Show(TotalsTable(summary));
+    generalCharts_->Say(summary.Played > 0 ? QString() : kNothing);
+    const std::string player = engine_.data().CurPlayer();
+    Tell(*generalStreak_, QStringLiteral("Won in a row by %1").arg(ToQt(player)),
+         engine_.score().PlayerStreak(player));
 }
 
 void GameStatDialog::ShowGame() {
     const std::string game = imcGames_->currentText().toStdString();
-    ShowShare(*chGames_, engine_.score().GameSummary(game));
-    ShowFigures(*chGames1_, FirstGames(engine_.score(), game));
+    const ScoreSummary summary = engine_.score().GameSummary(game);
+    chGames_->Show(ShareTable(summary));
+    std::vector<GameFigures> figures{{}};
+    QStringList tips{{}};
+    for (const ScoreRecord& record : FirstGames(engine_.score(), game)) {
+        figures.push_back({record.Score, record.Moves, record.Time});
+        const auto moment = ParseDateText(record.Date);
+        const std::string date = moment ? engine_.dates().DateAndTime(*moment) : record.Date;
+        tips << QStringLiteral("%1\nGame %2, %3")
+                    .arg(ToQt(date), ToQt(record.GameNo.Shown()), ToQt(record.Player));
+    }
+    ChartTable table = FiguresTable(figures);
+    table.rows.front().clear();  // games count from 1
+    table.firstRow = 0;
+    table.rowTips = tips;
+    chGames1_->Show(table);
+    gameCharts_->Say(summary.Played > 0
+                         ? QString()
+                         : QStringLiteral("%1 is waiting for its first game.").arg(ToQt(game)));
+    const std::string player = engine_.data().CurPlayer();
+    Tell(*gameStreak_, QStringLiteral("%1 won in a row by %2").arg(ToQt(game), ToQt(player)),
+         engine_.score().PlayerStreak(player, game));
+    gamesView_->ShowRow(imcGames_->currentIndex());
 }
 
 void GameStatDialog::ShowPeriods() {
-    const auto choice = PeriodChoices()[static_cast<std::size_t>(imcDate_->currentIndex())];
+    const auto& choice = PeriodChoices()[static_cast<std::size_t>(imcDate_->currentIndex())];
     const auto periods = PeriodRows(engine_.score(), choice, engine_.Now());
-    ChartTable played{
-        .labels = {QStringLiteral("Played"), QStringLiteral("Won")}, .rows = {}, .rowNames = {}};
+    ChartTable played{.series = {Series::Played, Series::Won}};
     std::vector<GameFigures> figures;
     for (const PeriodSummary& period : periods) {
-        played.rows.append({double(period.Played), double(period.Won)});
+        played.rows.push_back({double(period.Played), double(period.Won)});
         played.rowNames << ToQt(period.Label);
         figures.push_back({period.Score, period.Moves, period.Time});
     }
-    lvDate_->SetRows(PeriodLines(periods));
-    lvDate_->SetTitle(0, choice.Heading);
+    const auto columns = PeriodColumns(choice);
+    lvDate_->SetRows({columns.begin(), columns.end()}, PeriodLines(periods));
+    ChartTable sums = FiguresTable(figures);
+    sums.rowNames = played.rowNames;
+    const bool any = std::any_of(periods.begin(), periods.end(),
+                                 [](const PeriodSummary& period) { return period.Played > 0; });
+    dateCharts_->Say(any ? QString() : engine_.score().ScoreTop() == 0 ? kNothing : kNothingThen);
+    if (!any) played.rows = sums.rows = {};
     chDate_->Show(played);
-    ShowFigures(*chDate1_, figures, played.rowNames);
+    chDate1_->Show(sums);
 }
 
 void GameStatDialog::ShowPlayer() {
-    const ScoreSummary summary =
-        engine_.score().PlayerSummary(imcPlayer_->currentText().toStdString());
-    ShowShare(*chPlayer_, summary);
-    ShowTotals(*chPlayer1_, summary.Score, summary.Moves, summary.Time);
-}
-
-void GameStatDialog::Export() {
-    const auto file = AskForReportFile(this);
-    if (!file) return;
-    engine_.results().ExportStat(*file);
-    engine_.results().OpenScores();  // the export has closed the list
-    Fill();
+    const std::string player = imcPlayer_->currentText().toStdString();
+    const ScoreSummary summary = engine_.score().PlayerSummary(player);
+    chPlayer_->Show(ShareTable(summary));
+    chPlayer1_->Show(TotalsTable(summary));
+    playerCharts_->Say(summary.Played > 0
+                           ? QString()
+                           : QStringLiteral("%1 hasn't finished a game yet.").arg(ToQt(player)));
+    Tell(*playerStreak_, QStringLiteral("Won in a row by %1").arg(ToQt(player)),
+         engine_.score().PlayerStreak(player));
+    playersView_->ShowRow(imcPlayer_->currentIndex());
 }
 
 }  // namespace varnello

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
 
@@ -11,8 +12,8 @@
 
 namespace varnello {
 
-/// `frmGameStat`: everything that was ever played, by game, by date and by player. The score list
-/// is open for as long as the window is.
+/// `frmGameStat`: everything that was ever played, by game, by date and by player. It shows the
+/// open score list, and closes it in the end.
 class GameStatDialog : public QDialog {
     Q_OBJECT
 
@@ -26,13 +27,10 @@ private:
     QWidget* MakeDates();
     QWidget* MakePlayers();
     QWidget* MakeButtons();
-    /// Shows the open score list everywhere.
-    void Fill();
     void FillGeneral();
     void ShowGame();
     void ShowPeriods();
     void ShowPlayer();
-    void Export();
 
     Engine& engine_;
     QTabWidget* SSTab1_;
@@ -40,6 +38,8 @@ private:
     RowsModel* lvGames_;
     RowsModel* lvDate_;
     RowsModel* lvPlayer_;
+    ReportView* gamesView_;
+    ReportView* playersView_;
     QComboBox* imcGames_;
     QComboBox* imcDate_;
     QComboBox* imcPlayer_;
@@ -51,6 +51,13 @@ private:
     Chart* chDate1_;
     Chart* chPlayer_;
     Chart* chPlayer1_;
+    ChartArea* generalCharts_;
+    ChartArea* gameCharts_;
+    ChartArea* dateCharts_;
+    ChartArea* playerCharts_;
+    QLabel* generalStreak_;
+    QLabel* gameStreak_;
+    QLabel* playerStreak_;
 };
 
 }  // namespace varnello

@@ -9,43 +9,38 @@
 #include "desktop/accessible/label.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
-#include "engine/reports/high_scores.h"
+#include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
+#include "engine/reports/wins.h"
 
 namespace varnello {
 namespace {
 
 constexpr QSize kSize(1000, 620);
 
-struct Ranking {
+struct Order {
     const char* text;
     FinishedBy by;
     RecordField field;
 };
-constexpr std::array kRankings{Ranking{"Score", FinishedBy::Score, RecordField::Score},
-                               Ranking{"Moves", FinishedBy::Moves, RecordField::Moves},
-                               Ranking{"Time", FinishedBy::Time, RecordField::Time}};
+constexpr std::array kOrders{Order{"Score", FinishedBy::Score, RecordField::Score},
+                             Order{"Moves", FinishedBy::Moves, RecordField::Moves},
+                             Order{"Time", FinishedBy::Time, RecordField::Time}};
 
-int ColumnOf(RecordFields fields, RecordField field) {
-    return static_cast<int>(std::find(fields.begin(), fields.end(), field) - fields.begin());
-}
-
-/// A list whose column of scores is bold.
-RowsModel* NewModel(RecordFields fields) {
-    auto* model = new RowsModel(ColumnsOf(fields));
-    model->SetBoldColumn(ColumnOf(fields, RecordField::Score));
-    return model;
+int ColumnOf(RecordColumns columns, RecordField field) {
+    return static_cast<int>(PlaceOf(field, columns));
 }
 
 }  // namespace
 
-HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
+HighScoreDialog::HighScoreDialog(Engine& engine, bool won, QWidget* parent)
     : QDialog(parent),
       engine_(engine),
       SSTab1_(new QTabWidget),
-      lvTop_(NewModel(kTopFields)),
-      lvGames_(NewModel(kTopOfGameFields)),
-      lvPlayer_(NewModel(kTopOfPlayerFields)),
-      lvFin_(NewModel(kFinishedFields)),
+      lvTop_(NewSheet(kTopColumns, QStringLiteral("Top games"))),
+      lvGames_(NewSheet(kTopOfGameColumns, QStringLiteral("Best of the game"))),
+      lvPlayer_(NewSheet(kTopOfPlayerColumns, QStringLiteral("Best of the player"))),
+      lvFin_(NewSheet(kFinishedColumns, QStringLiteral("Best won games"))),
       imcGames_(new QComboBox),
       imcPlayer_(new QComboBox),
       imcFin_(new QComboBox) {
@@ -53,40 +48,51 @@ HighScoreDialog::HighScoreDialog(Engine& engine, QWidget* parent)
     setWindowIcon(SmallIcon(QStringLiteral("highscore")));
     FillGames(*imcGames_, engine.data(), engine.data().CurGName());
     FillPlayers(*imcPlayer_, engine.data());
-    for (const Ranking& ranking : kRankings) imcFin_->addItem(QString::fromLatin1(ranking.text));
+    for (const Order& order : kOrders) imcFin_->addItem(QString::fromLatin1(order.text));
     NamePurpose(*imcGames_, QStringLiteral("Game"));
     NamePurpose(*imcPlayer_, QStringLiteral("Player"));
     NamePurpose(*imcFin_, QStringLiteral("Ranked by"));
 
-    SSTab1_->addTab(MakeSheet(nullptr, lvTop_, QStringLiteral("Top games")),
-                    QStringLiteral("Top Games"));
-    SSTab1_->addTab(MakeSheet(imcGames_, lvGames_, QStringLiteral("Best of the game")),
-                    QStringLiteral("Game-wise"));
-    SSTab1_->addTab(MakeSheet(imcPlayer_, lvPlayer_, QStringLiteral("Best of the player")),
-                    QStringLiteral("Player-wise"));
-    SSTab1_->addTab(MakeSheet(imcFin_, lvFin_, QStringLiteral("Best won games")),
-                    QStringLiteral("Finished Games"));
+    SSTab1_->addTab(MakePage(nullptr, lvTop_), QStringLiteral("Top Games"));
+    SSTab1_->addTab(MakePage(imcGames_, lvGames_), QStringLiteral("Game-wise"));
+    SSTab1_->addTab(MakePage(imcPlayer_, lvPlayer_), QStringLiteral("Player-wise"));
+    SSTab1_->addTab(MakePage(imcFin_, lvFin_), QStringLiteral("Finished Games"));
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(buttons);
-    resize(kSize);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(imcGames_, &QComboBox::activated, this, &HighScoreDialog::FillGame);
     connect(imcPlayer_, &QComboBox::activated, this, &HighScoreDialog::FillPlayer);
     connect(imcFin_, &QComboBox::activated, this, &HighScoreDialog::FillFinished);
 
-    engine_.results().OpenScores();
-    lvTop_->SetRows(TopRows(engine_.score(), engine_.dates()));
+    if (won)
+        marked_ = FindBooked(engine_.score().List(), engine_.score().CurrentGame(Outcome::Won));
+    Show(lvTop_, TopRows(engine_.score(), engine_.dates()));
     FillGame();
     FillPlayer();
     FillFinished();
+    auto* memory = new WindowMemory(this, engine_.data().Store(), "HighScore", kSize);
+    memory->Keep(SSTab1_);
+    lvTop_.view->Remember(*memory, "top");
+    lvGames_.view->Remember(*memory, "games");
+    lvPlayer_.view->Remember(*memory, "players");
+    lvFin_.view->Remember(*memory, "finished");
 }
 
 HighScoreDialog::~HighScoreDialog() { engine_.score().CloseScore(); }
 
-QWidget* HighScoreDialog::MakeSheet(QComboBox* filter, RowsModel* model, const QString& name) {
+HighScoreDialog::Sheet HighScoreDialog::NewSheet(RecordColumns columns, const QString& name) {
+    auto* model = new RowsModel(ColumnsOf(columns));
+    model->SetBoldColumn(ColumnOf(columns, RecordField::Score));
+    auto* view = new ReportView(model, name);
+    view->SetEmptyText(QStringLiteral("No game has made it onto this list yet."));
+    connect(view, &ReportView::DealAsked, this, &HighScoreDialog::DealAsked);
+    return {model, view, {}};
+}
+
+QWidget* HighScoreDialog::MakePage(QComboBox* filter, const Sheet& sheet) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     if (filter) {
@@ -95,24 +101,38 @@ QWidget* HighScoreDialog::MakeSheet(QComboBox* filter, RowsModel* model, const Q
         row->addStretch();
         column->addLayout(row);
     }
-    column->addWidget(new ReportView(model, name));
+    column->addWidget(sheet.view);
     return page;
 }
 
+void HighScoreDialog::Show(Sheet& sheet, Ranking ranking) {
+    sheet.model->SetRows(std::move(ranking.Rows));
+    sheet.positions = std::move(ranking.Positions);
+    sheet.view->OfferDeals([this, &sheet](int row) -> std::optional<GameChoice> {
+        const ScoreList& list = engine_.score().List();
+        const CompactScore& score = list.At(sheet.positions.at(static_cast<std::size_t>(row)));
+        return GameChoice{.Game = list.GameOf(score), .Number = list.NumberOf(score)};
+    });
+    const auto mark = marked_ ? std::find(sheet.positions.begin(), sheet.positions.end(), *marked_)
+                              : sheet.positions.end();
+    if (mark == sheet.positions.end()) return;
+    sheet.view->ShowRow(static_cast<int>(mark - sheet.positions.begin()));
+}
+
 void HighScoreDialog::FillGame() {
-    lvGames_->SetRows(
-        TopRowsOfGame(engine_.score(), imcGames_->currentText().toStdString(), engine_.dates()));
+    Show(lvGames_,
+         TopRowsOfGame(engine_.score(), imcGames_->currentText().toStdString(), engine_.dates()));
 }
 
 void HighScoreDialog::FillPlayer() {
-    lvPlayer_->SetRows(
-        TopRowsOfPlayer(engine_.score(), imcPlayer_->currentText().toStdString(), engine_.dates()));
+    Show(lvPlayer_, TopRowsOfPlayer(engine_.score(), imcPlayer_->currentText().toStdString(),
+                                    engine_.dates()));
 }
 
 void HighScoreDialog::FillFinished() {
-    const Ranking& ranking = kRankings[static_cast<std::size_t>(imcFin_->currentIndex())];
-    lvFin_->SetBoldColumn(ColumnOf(kFinishedFields, ranking.field));
-    lvFin_->SetRows(FinishedRows(engine_.score(), ranking.by, engine_.dates()));
+    const Order& order = kOrders[static_cast<std::size_t>(imcFin_->currentIndex())];
+    lvFin_.model->SetBoldColumn(ColumnOf(kFinishedColumns, order.field));
+    Show(lvFin_, FinishedRows(engine_.score(), order.by, engine_.dates()));
 }
 
 }  // namespace varnello

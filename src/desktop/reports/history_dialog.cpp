@@ -7,6 +7,7 @@
 
 #include "desktop/appearance/icons.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 #include "engine/movelog/history.h"
 
 namespace varnello {
@@ -38,7 +39,7 @@ QTreeWidgetItem* ItemOf(const HistoryRow& row, const QIcon& icon, bool dark) {
 
 }  // namespace
 
-HistoryDialog::HistoryDialog(const cTrans& log, QWidget* parent)
+HistoryDialog::HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* parent)
     : QDialog(parent), lvHistory_(new QTreeWidget) {
     setWindowTitle(QStringLiteral("Game History"));
     lvHistory_->setHeaderLabels({QString(), QStringLiteral("Source"), QStringLiteral("Destination"),
@@ -60,15 +61,18 @@ HistoryDialog::HistoryDialog(const cTrans& log, QWidget* parent)
         if (row.Mark == HistoryMark::Last) last = items.back();
     }
     lvHistory_->addTopLevelItems(items);
-    if (last) lvHistory_->scrollToItem(last, QAbstractItemView::PositionAtCenter);
-
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* all = new QVBoxLayout(this);
     all->addWidget(lvHistory_);
     all->addWidget(buttons);
-    resize(kSize);
+    new WindowMemory(this, store, "History", kSize);
+    if (!last) return;
+    lvHistory_->setCurrentItem(last);
+    lvHistory_->clearSelection();  // its colour tells enough
+    layout()->activate();          // the list has its size from here on
+    lvHistory_->scrollToItem(last, QAbstractItemView::PositionAtCenter);
 }
 
 }  // namespace varnello

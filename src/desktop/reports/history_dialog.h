@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QTreeWidget>
 
+#include "engine/desktop.h"
 #include "engine/movelog/log.h"
 
 namespace varnello {
@@ -12,7 +13,7 @@ class HistoryDialog : public QDialog {
     Q_OBJECT
 
 public:
-    HistoryDialog(const cTrans& log, QWidget* parent);
+    HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* parent);
 
     QTreeWidget* list() const { return lvHistory_; }
 

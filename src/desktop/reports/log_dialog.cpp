@@ -9,7 +9,8 @@
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
-#include "desktop/reports/report_view.h"
+#include "desktop/platform/window_memory.h"
+#include "engine/common/calendar.h"
 
 namespace varnello {
 namespace {
@@ -28,12 +29,12 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
       engine_(engine),
       imcPlayer_(new QComboBox),
       imcGames_(new QComboBox),
-      imcDate_(new QComboBox) {
+      imcDate_(new QComboBox),
+      lvLog_(new LogModel(engine.score().List(), engine.dates(), this)),
+      view_(new ReportView(lvLog_, QStringLiteral("Log"))),
+      totals_(new QLabel) {
     setWindowTitle(QStringLiteral("Log Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
-    engine_.results().OpenScores();
-    lvLog_ = new LogModel(engine_.score().List(), engine_.dates(), this);
-
     FillPlayers(*imcPlayer_, engine.data());
     FillGames(*imcGames_, engine.data(), {});
     imcPlayer_->insertItem(0, SmallIcon(QStringLiteral("player")), QStringLiteral("All Players"));
@@ -46,21 +47,38 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
     NamePurpose(*imcGames_, QStringLiteral("Game"));
     NamePurpose(*imcDate_, QStringLiteral("Time"));
 
-    FillLog();
     auto* filters = new QHBoxLayout;
     for (QComboBox* combo : {imcPlayer_, imcGames_, imcDate_}) {
         connect(combo, &QComboBox::activated, this, &LogDialog::FillLog);
         filters->addWidget(combo);
     }
     filters->addStretch();
+    totals_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    view_->OfferDeals([this](int row) -> std::optional<GameChoice> {
+        const ScoreList& list = engine_.score().List();
+        const CompactScore& score = list.At(lvLog_->Positions()[static_cast<std::size_t>(row)]);
+        return GameChoice{.Game = list.GameOf(score), .Number = list.NumberOf(score)};
+    });
+    connect(view_, &ReportView::DealAsked, this, &LogDialog::DealAsked);
+    connect(view_, &ReportView::CopyCut, this, [this](int rows) {
+        totals_->setText(QStringLiteral("The first %1 of the selected rows were copied; \"Export "
+                                        "Statistics\" in Game Statistics writes all of them.")
+                             .arg(locale().toString(rows)));
+    });
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* all = new QVBoxLayout(this);
     all->addLayout(filters);
-    all->addWidget(new ReportView(lvLog_, QStringLiteral("Log")));
+    all->addWidget(view_);
+    all->addWidget(totals_);
     all->addWidget(buttons);
-    resize(kSize);
+    FillLog();
+    auto* memory = new WindowMemory(this, engine_.data().Store(), "LogStatistics", kSize);
+    view_->Remember(*memory, "log");
+    if (const auto newest = NewestOf(engine_.score().List())) {
+        view_->ShowRow(static_cast<int>(*newest), false);  // all games are shown
+    }
 }
 
 LogDialog::~LogDialog() { engine_.score().CloseScore(); }
@@ -71,6 +89,19 @@ void LogDialog::FillLog() {
         .Game = Chosen(*imcGames_),
         .Age = &AgeChoices()[static_cast<std::size_t>(imcDate_->currentIndex())]};
     lvLog_->SetPositions(LogPositions(engine_.score().List(), filter, engine_.Now()));
+    view_->SetEmptyText(engine_.score().ScoreTop() == 0
+                            ? QStringLiteral("Nothing played yet.")
+                            : QStringLiteral("No game passes these filters."));
+    const LogTotals totals = TotalsOf(engine_.score().List(), lvLog_->Positions());
+    if (totals.Sum.Played == 0) return totals_->setText(QStringLiteral("No games"));
+    totals_->setText(
+        QStringLiteral("%1, %2 won (%3%)   Time: %4   Best score: %5")
+            .arg(totals.Sum.Played == 1
+                     ? QStringLiteral("1 game")
+                     : QStringLiteral("%1 games").arg(locale().toString(totals.Sum.Played)),
+                 locale().toString(totals.Sum.Won),
+                 locale().toString(100.0 * totals.Sum.Won / totals.Sum.Played, 'f', 1),
+                 ToQt(FormatTime(totals.Sum.Time)), locale().toString(totals.BestScore)));
 }
 
 }  // namespace varnello

@@ -1,55 +1,57 @@
 #include "desktop/reports/report_charts.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
 #include <algorithm>
 
 namespace varnello {
 namespace {
 
-class NoChart : public Chart {
-public:
-    NoChart() {
-        auto* all = new QVBoxLayout(this);
-        auto* regret = new QLabel(QStringLiteral("The charts can't be loaded."));
-        regret->setAlignment(Qt::AlignCenter);
-        all->addWidget(regret);
-    }
-    void Show(const ChartTable&) override {}
-};
-
-QStringList FigureLabels() {
-    return {QStringLiteral("Score"), QStringLiteral("Moves"), QStringLiteral("Time")};
-}
+const std::vector<Series> kFigures{Series::Score, Series::Moves, Series::Time};
 
 }  // namespace
 
-Chart* MakeChart(ChartKind kind, const QString& name) {
-    ChartModule* module = Charts();
-    Chart* chart = module ? module->NewChart(kind, nullptr) : new NoChart;
-    chart->setAccessibleName(name);
-    return chart;
+ChartTable ShareTable(const ScoreSummary& summary) {
+    ChartTable table{.series = {Series::Won, Series::Lost}};
+    if (summary.Played > 0) table.rows = {{double(summary.Won), double(summary.Lost)}};
+    return table;
 }
 
-void ShowShare(Chart& chart, const ScoreSummary& summary) {
-    chart.Show({.labels = {QStringLiteral("Won : %1").arg(summary.Won),
-                           QStringLiteral("Lost : %1").arg(summary.Lost)},
-                .rows = {{double(summary.Won), double(summary.Lost)}},
-                .rowNames = {}});
-}
-
-void ShowTotals(Chart& chart, double score, double moves, double seconds) {
-    chart.Show({.labels = FigureLabels(),
-                .rows = {{std::max(score, 0.0), moves, seconds}},
-                .rowNames = {}});
-}
-
-void ShowFigures(Chart& chart, const std::vector<GameFigures>& rows, const QStringList& names) {
-    ChartTable table{.labels = FigureLabels(), .rows = {}, .rowNames = names};
-    for (const auto& [score, moves, seconds] : rows) {
-        table.rows.append({double(score), double(moves), double(seconds)});
+ChartTable TotalsTable(const ScoreSummary& summary) {
+    ChartTable table{.series = kFigures};
+    if (summary.Played > 0) {
+        table.rows = {TotalsRow({summary.Score, summary.Moves, summary.Time})};
     }
-    chart.Show(table);
+    return table;
+}
+
+std::vector<double> TotalsRow(const GameFigures& figures) {
+    const auto& [score, moves, seconds] = figures;
+    return {std::max(double(score), 0.0), double(moves), double(seconds)};
+}
+
+ChartTable FiguresTable(const std::vector<GameFigures>& rows) {
+    ChartTable table{.series = kFigures};
+    for (const auto& row : rows) table.rows.emplace_back(row.begin(), row.end());
+    return table;
+}
+
+ChartArea::ChartArea(QLayout* charts) : nothing_(new QLabel) {
+    auto* page = new QWidget;
+    charts->setContentsMargins(0, 0, 0, 0);
+    page->setLayout(charts);
+    addWidget(page);
+    nothing_->setAlignment(Qt::AlignCenter);
+    nothing_->setWordWrap(true);
+    nothing_->setTextFormat(Qt::PlainText);
+    nothing_->setForegroundRole(QPalette::PlaceholderText);
+    nothing_->setBackgroundRole(QPalette::Base);
+    nothing_->setAutoFillBackground(true);
+    nothing_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    addWidget(nothing_);
+}
+
+void ChartArea::Say(const QString& sentence) {
+    nothing_->setText(sentence);
+    setCurrentIndex(sentence.isEmpty() ? 0 : 1);
 }
 
 }  // namespace varnello

@@ -1,23 +1,31 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
-#include <vector>
+#include <QLabel>
+#include <QStackedWidget>
 
-#include "desktop/modules/chart_module.h"
+#include "desktop/charts/chart.h"
 #include "engine/reports/statistics.h"
 
 namespace varnello {
 
-/// A chart of the chart module, or a word of regret where that can't be loaded. `name` is what
-/// assistive tools call it.
-Chart* MakeChart(ChartKind kind, const QString& name);
+/// Won and lost; no row when nothing was played.
+ChartTable ShareTable(const ScoreSummary& summary);
+/// Score, moves and seconds; a negative score counts as 0. No row when nothing was played.
+ChartTable TotalsTable(const ScoreSummary& summary);
+std::vector<double> TotalsRow(const GameFigures& figures);
+/// Score, moves and seconds of many games or periods.
+ChartTable FiguresTable(const std::vector<GameFigures>& rows);
 
-/// Won and lost, with the figures in the legend.
-void ShowShare(Chart& chart, const ScoreSummary& summary);
-/// Score, moves and seconds; a negative score shows as 0.
-void ShowTotals(Chart& chart, double score, double moves, double seconds);
-/// Score, moves and seconds of many games or periods; `names` may be empty.
-void ShowFigures(Chart& chart, const std::vector<GameFigures>& rows, const QStringList& names = {});
+/// Charts that give way to one sentence while there is nothing to show.
+class ChartArea : public QStackedWidget {
+public:
+    explicit ChartArea(QLayout* charts);
+
+    /// Shows the sentence, or the charts for an empty one.
+    void Say(const QString& sentence);
+
+private:
+    QLabel* nothing_;
+};
 
 }  // namespace varnello

@@ -2,10 +2,9 @@
 
 #include <QFont>
 #include <algorithm>
-#include <map>
-#include <numeric>
 
 #include "desktop/platform/text.h"
+#include "desktop/reports/report_order.h"
 
 namespace varnello {
 
@@ -40,7 +39,7 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
         }
         case Qt::TextAlignmentRole: return headerData(index.column(), Qt::Horizontal, role);
         case Qt::DecorationRole:
-            return index.column() == 0 && !icon_.isNull() ? QVariant(icon_) : QVariant();
+            return index.column() == 0 && icons_ ? QVariant(icons_(row)) : QVariant();
         case Qt::FontRole:
             if (index.column() == boldColumn_) {
                 QFont bold;
@@ -53,17 +52,6 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
             return {};
         default: return {};
     }
-}
-
-void ReportModel::SetTitle(int column, std::string_view title) {
-    columns_.at(static_cast<std::size_t>(column)).Title = title;
-    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
-}
-
-std::vector<int> ReportModel::WidestRows() const {
-    std::vector<int> rows(static_cast<std::size_t>(Count()));
-    std::iota(rows.begin(), rows.end(), 0);
-    return rows;
 }
 
 void ReportModel::Reset(const std::function<void()>& change) {
@@ -97,23 +85,7 @@ void ReportModel::sort(int column, Qt::SortOrder order) {
 void ReportModel::Order() {
     order_.clear();
     if (sortColumn_ < 0) return;
-    struct Keyed {
-        double value;
-        int row;
-    };
-    const SortValueOf valueOf = SortValues(sortColumn_);
-    std::vector<Keyed> keyed;
-    keyed.reserve(static_cast<std::size_t>(Count()));
-    for (int row = 0; row < Count(); ++row) keyed.push_back({valueOf(row), row});
-    if (sortOrder_ == Qt::AscendingOrder) {
-        std::stable_sort(keyed.begin(), keyed.end(),
-                         [](const Keyed& a, const Keyed& b) { return a.value < b.value; });
-    } else {
-        std::stable_sort(keyed.begin(), keyed.end(),
-                         [](const Keyed& a, const Keyed& b) { return a.value > b.value; });
-    }
-    order_.reserve(keyed.size());
-    for (const Keyed& entry : keyed) order_.push_back(entry.row);
+    order_ = OrderOf(SortValues(sortColumn_), sortOrder_ == Qt::DescendingOrder);
 }
 
 int ReportModel::Original(int shown) const {
@@ -130,15 +102,20 @@ void RowsModel::SetRows(std::vector<ReportRow> rows) {
     Reset([&] { rows_ = std::move(rows); });
 }
 
-void RowsModel::UpdateRow(int row, const ReportRow& cells, const std::vector<int>& columns) {
+void RowsModel::SetRows(std::vector<Column> columns, std::vector<ReportRow> rows) {
+    Reset([&] {
+        SetColumns(std::move(columns));
+        rows_ = std::move(rows);
+    });
+}
+
+void RowsModel::UpdateRow(int row, const ReportRow& cells,
+                          const std::vector<std::size_t>& columns) {
     ReportRow& kept = rows_.at(static_cast<std::size_t>(row));
-    for (const int column : columns) {
-        const auto at = static_cast<std::size_t>(column);
-        kept.at(at) = cells.at(at);
-    }
+    for (const std::size_t column : columns) kept.at(column) = cells.at(column);
     ForgetCached();
-    for (const int column : columns) {
-        const QModelIndex changed = index(Shown(row), column);
+    for (const std::size_t column : columns) {
+        const QModelIndex changed = index(Shown(row), static_cast<int>(column));
         Q_EMIT dataChanged(changed, changed, {Qt::DisplayRole});
     }
 }
@@ -152,21 +129,19 @@ std::optional<QColor> RowsModel::ColourOf(int row) const {
     return row == colouredRow_ ? std::optional{colour_} : std::nullopt;
 }
 
-ReportModel::SortValueOf RowsModel::SortValues(int column) const {
-    const auto at = static_cast<std::size_t>(column);
-    if (ColumnAt(column).Kind != ColumnKind::Text) {
-        return [this, at](int row) { return rows_[static_cast<std::size_t>(row)][at].Value; };
+QStringList RowsModel::WidestTexts(int column) const {
+    QStringList texts;
+    for (const ReportRow& row : rows_) texts << ToQt(row[static_cast<std::size_t>(column)].Text);
+    return texts;
+}
+
+std::vector<double> RowsModel::SortValues(int column) const {
+    if (ColumnAt(column).Kind == ColumnKind::Text) return AlphabetOf(WidestTexts(column));
+    std::vector<double> values;
+    for (const ReportRow& row : rows_) {
+        values.push_back(row[static_cast<std::size_t>(column)].Value);
     }
-    const auto before = [](const QString& a, const QString& b) {
-        return QString::localeAwareCompare(a, b) < 0;
-    };
-    std::map<QString, double, decltype(before)> places(before);
-    for (const ReportRow& row : rows_) places.emplace(ToQt(row[at].Text), 0);
-    double place = 0;
-    for (auto& [text, value] : places) value = place++;
-    return [this, at, places](int row) {
-        return places.at(ToQt(rows_[static_cast<std::size_t>(row)][at].Text));
-    };
+    return values;
 }
 
 }  // namespace varnello

@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QColor>
 #include <QIcon>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -27,36 +28,35 @@ public:
     /// Column -1 is the report's own order.
     void sort(int column, Qt::SortOrder order) override;
 
-    void SetTitle(int column, std::string_view title);
-    /// An icon before the first cell of each row.
-    void SetIcon(const QIcon& icon) { icon_ = icon; }
+    /// An icon before the first cell of each row, told by the row of the report.
+    void SetIcons(std::function<QIcon(int row)> icons) { icons_ = std::move(icons); }
+    bool HasIcons() const { return icons_ != nullptr; }
     void SetBoldColumn(int column) { boldColumn_ = column; }
-    /// Rows of the report, from 0, that are enough to know how wide the columns have to be.
-    virtual std::vector<int> WidestRows() const;
+    /// Texts of a column that are enough to know how wide it has to be.
+    virtual QStringList WidestTexts(int column) const = 0;
     /// A row of the report, from 0, wherever it stands after sorting.
     virtual ReportRow RowAt(int row) const = 0;
+    /// Where a row of the report stands now, and the row that stands somewhere.
+    int Shown(int row) const;
+    int Original(int shown) const;
 
 protected:
-    using SortValueOf = std::function<double(int row)>;
-
     virtual int Count() const = 0;
-    /// What the rows of the report sort by in a column.
-    virtual SortValueOf SortValues(int column) const = 0;
+    /// What the rows of the report sort by in a column, one after the other.
+    virtual std::vector<double> SortValues(int column) const = 0;
     virtual std::optional<QColor> ColourOf(int /*row*/) const { return {}; }
     /// All rows have changed; `change` makes them so.
     void Reset(const std::function<void()>& change);
-    /// Where a row of the report stands now.
-    int Shown(int row) const;
+    void SetColumns(std::vector<Column> columns) { columns_ = std::move(columns); }
     const Column& ColumnAt(int column) const {
         return columns_.at(static_cast<std::size_t>(column));
     }
 
 private:
     void Order();
-    int Original(int shown) const;
 
     std::vector<Column> columns_;
-    QIcon icon_;
+    std::function<QIcon(int row)> icons_;
     int boldColumn_ = -1;
     int sortColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
@@ -76,16 +76,18 @@ public:
     using ReportModel::ReportModel;
 
     void SetRows(std::vector<ReportRow> rows);
+    /// The same with other columns.
+    void SetRows(std::vector<Column> columns, std::vector<ReportRow> rows);
     /// Replaces the cells of a row that stays where it is; `row` from 0.
-    void UpdateRow(int row, const ReportRow& cells, const std::vector<int>& columns);
+    void UpdateRow(int row, const ReportRow& cells, const std::vector<std::size_t>& columns);
     /// A row in another colour, from 0; -1 for none.
     void SetColouredRow(int row, const QColor& colour);
     ReportRow RowAt(int row) const override { return rows_.at(static_cast<std::size_t>(row)); }
-    int ShownRow(int row) const { return Shown(row); }
+    QStringList WidestTexts(int column) const override;
 
 protected:
     int Count() const override { return static_cast<int>(rows_.size()); }
-    SortValueOf SortValues(int column) const override;
+    std::vector<double> SortValues(int column) const override;
     std::optional<QColor> ColourOf(int row) const override;
 
 private:

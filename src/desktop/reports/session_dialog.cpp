@@ -6,8 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/appearance/game_mark.h"
 #include "desktop/appearance/icons.h"
+#include "desktop/charts/row_chart.h"
+#include "desktop/charts/share_chart.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 
 namespace varnello {
 namespace {
@@ -23,11 +27,10 @@ QColor RunningColour(const QPalette& palette) {
     return dark ? QColor(255, 138, 128) : QColor(120, 0, 0);
 }
 
-/// The columns of a list that a tick sets anew: time and score.
-constexpr int kSessionTime = 3;
-constexpr int kSessionScore = 6;
-constexpr int kDetailTime = 1;
-constexpr int kDetailScore = 3;
+/// The columns of a list that a tick sets anew.
+std::vector<std::size_t> Ticking(RecordColumns columns) {
+    return {PlaceOf(RecordField::Time, columns), PlaceOf(RecordField::Score, columns)};
+}
 
 GameFigures RunningFigures(const cData& data) {
     return {data.CurScore, data.CurMoves, data.CurTime};
@@ -48,12 +51,12 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
     : QDialog(parent),
       engine_(engine),
       SSTab1_(new QTabWidget),
-      lvSession_(new RowsModel(SessionColumns())),
-      lvSesChart_(new RowsModel(DetailColumns())),
+      lvSession_(new RowsModel(ColumnsOf(kSessionColumns))),
+      lvSesChart_(new RowsModel(ColumnsOf(kDetailColumns))),
       sessionView_(new ReportView(lvSession_, QStringLiteral("Games of this session"))),
       detailView_(new ReportView(lvSesChart_, QStringLiteral("Games of this session by figures"))),
-      chSummary_(MakeChart(ChartKind::Share, QStringLiteral("Games won and lost"))),
-      chChart_(MakeChart(ChartKind::Rows, QStringLiteral("Score, moves and time game by game"))),
+      chSummary_(new ShareChart(QStringLiteral("Games won and lost"))),
+      chChart_(new RowChart(QStringLiteral("Score, moves and time game by game"))),
       running_(engine.data().GameRunning) {
     setWindowTitle(QStringLiteral("Session Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
@@ -65,21 +68,30 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(buttons);
-    resize(kSize);
 
-    lvSession_->SetIcon(SmallIcon(QStringLiteral("game")));
+    lvSession_->SetIcons([this](int row) { return GameMark(DealAt(row).Game); });
+    sessionView_->setIconSize(kGameMarkSize);
+    for (ReportView* view : {sessionView_, detailView_}) {
+        view->SetEmptyText(QStringLiteral("No game was played in this session yet."));
+        view->OfferDeals([this](int row) -> std::optional<GameChoice> { return DealAt(row); });
+        connect(view, &ReportView::DealAsked, this, &SessionDialog::DealAsked);
+    }
     if (running_) {
         lvSession_->SetColouredRow(engine.score().SesTop(), RunningColour(palette()));
         lvSesChart_->SetColouredRow(engine.score().SesTop(), RunningColour(palette()));
     }
-    lvSession_->SetRows(SessionRows(engine));
-    lvSesChart_->SetRows(DetailRows(engine));
-    ShowShare(*chSummary_, engine.score().SesSummary());
+    lvSession_->SetRows(SessionRows(engine, kSessionColumns));
+    lvSesChart_->SetRows(SessionRows(engine, kDetailColumns));
+    chSummary_->Show(ShareTable(engine.score().SesSummary()));
     FillTable();
-    ShowFigures(*chChart_, table_);
+    ShowChart();
+    auto* memory = new WindowMemory(this, engine_.data().Store(), "SessionStatistics", kSize);
+    memory->Keep(SSTab1_);
+    sessionView_->Remember(*memory, "session");
+    detailView_->Remember(*memory, "details");
     if (running_) {
-        sessionView_->scrollToBottom();
-        detailView_->scrollToBottom();
+        sessionView_->ShowRow(engine.score().SesTop(), false);
+        detailView_->ShowRow(engine.score().SesTop(), false);
     }
     connect(&Timer1_, &QTimer::timeout, this, &SessionDialog::Tick);
     Timer1_.start(kTick);
@@ -150,8 +162,8 @@ void SessionDialog::Tick() {
     lblSesElapsedTime_->setText(ToQt(SessionElapsedLabel(engine_)));
     if (!running_ || !engine_.data().GameRunning) return;
     const int row = static_cast<int>(table_.size()) - 1;
-    lvSession_->UpdateRow(row, RunningSessionRow(engine_), {kSessionTime, kSessionScore});
-    lvSesChart_->UpdateRow(row, RunningDetailRow(engine_), {kDetailTime, kDetailScore});
+    lvSession_->UpdateRow(row, RunningRow(engine_, kSessionColumns), Ticking(kSessionColumns));
+    lvSesChart_->UpdateRow(row, RunningRow(engine_, kDetailColumns), Ticking(kDetailColumns));
     const GameLabels labels = GameLabelsOf(engine_);
     lblGameScore_->setText(ToQt(labels.Score));
     lblGameTime_->setText(ToQt(labels.Time));
@@ -160,7 +172,21 @@ void SessionDialog::Tick() {
 void SessionDialog::RefreshChart() {
     if (!running_ || !engine_.data().GameRunning) return;
     table_.back() = RunningFigures(engine_.data());
-    ShowFigures(*chChart_, table_);
+    ShowChart();
+}
+
+void SessionDialog::ShowChart() {
+    ChartTable table = FiguresTable(table_);
+    if (!running_) table.rows.emplace_back();  // the place of the next game
+    chChart_->Show(table);
+}
+
+GameChoice SessionDialog::DealAt(int row) const {
+    const cScore& score = engine_.score();
+    const bool ended = row < score.SesTop();
+    const ScoreRecord game =
+        ended ? score.GetSes(Narrow16(row + 1)) : score.CurrentGame(Outcome::NotWon);
+    return {.Game = game.Game, .Number = game.GameNo};
 }
 
 }  // namespace varnello

@@ -20,6 +20,10 @@ class SessionDialog : public QDialog {
 public:
     SessionDialog(Engine& engine, QWidget* parent);
 
+Q_SIGNALS:
+    /// A person wants to play a deal of the lists again.
+    void DealAsked(const varnello::GameChoice& deal);
+
 private:
     QWidget* MakeSummary();
     QWidget* MakeDetails();
@@ -27,7 +31,9 @@ private:
     QWidget* MakeThisGame();
     void FillTable();
     void Tick();
+    void ShowChart();
     void RefreshChart();
+    GameChoice DealAt(int row) const;
 
     Engine& engine_;
     QTabWidget* SSTab1_;

@@ -20,6 +20,7 @@
 #include "desktop/reports/high_score_dialog.h"
 #include "desktop/reports/history_dialog.h"
 #include "desktop/reports/log_dialog.h"
+#include "desktop/reports/scores_access.h"
 #include "desktop/reports/session_dialog.h"
 
 namespace varnello {
@@ -248,12 +249,6 @@ void MainWindow::OpenSelect(Qt::WindowModality modality) {
 }
 
 template <typename Dialog>
-void MainWindow::RunReport(QWidget* parent) {
-    BookWin();
-    Dialog(*engine_, parent).exec();
-}
-
-template <typename Dialog>
 void MainWindow::RunChooser() {
     BookWin();
     Dialog dialog(*engine_, this);
@@ -267,19 +262,66 @@ void MainWindow::ShowPlayFavorites() { RunChooser<PlayFavoriteDialog>(); }
 
 void MainWindow::ShowOrganizeFavorites() { OrganizeFavoritesDialog(*engine_, this).exec(); }
 
-void MainWindow::ShowPlayers() { RunReport<PlayersDialog>(this); }
-
-void MainWindow::ShowHistory() {
-    if (engine_->data().GameRunning) HistoryDialog(engine_->trans(), this).exec();
+void MainWindow::ShowPlayers() {
+    BookWin();
+    PlayersDialog(*engine_, this).exec();
 }
 
-void MainWindow::ShowGameStat() { RunReport<GameStatDialog>(Front()); }
+void MainWindow::ShowHistory() {
+    if (!engine_->data().GameRunning) return;
+    HistoryDialog(engine_->trans(), engine_->data().Store(), this).exec();
+}
 
-void MainWindow::ShowSesStat() { RunReport<SessionDialog>(this); }
+template <typename Report>
+std::optional<GameChoice> MainWindow::DealFrom(Report& report) {
+    std::optional<GameChoice> choice;
+    connect(&report, &Report::DealAsked, &report, [&](const GameChoice& deal) {
+        NumberDialog dialog(*engine_, &report);
+        dialog.Propose(deal);
+        dialog.exec();
+        choice = dialog.Choice();
+        if (choice) report.accept();
+    });
+    report.exec();
+    return choice;
+}
 
-void MainWindow::ShowHighScore() { RunReport<HighScoreDialog>(Front()); }
+void MainWindow::ShowGameStat() {
+    BookWin();
+    if (OpenScores(*engine_, Front())) GameStatDialog(*engine_, Front()).exec();
+}
 
-void MainWindow::ShowLogStat() { RunReport<LogDialog>(this); }
+void MainWindow::ShowSesStat() {
+    BookWin();
+    std::optional<GameChoice> deal;
+    {
+        SessionDialog dialog(*engine_, this);
+        deal = DealFrom(dialog);
+    }
+    if (deal) Play(*deal);
+}
+
+void MainWindow::ShowHighScore() {
+    BookWin();
+    if (const auto deal = DealOfHighScore(false)) Play(*deal);
+}
+
+std::optional<GameChoice> MainWindow::DealOfHighScore(bool won) {
+    if (!OpenScores(*engine_, Front())) return {};
+    HighScoreDialog dialog(*engine_, won, Front());
+    return DealFrom(dialog);
+}
+
+void MainWindow::ShowLogStat() {
+    BookWin();
+    if (!OpenScores(*engine_, this)) return;
+    std::optional<GameChoice> deal;
+    {
+        LogDialog dialog(*engine_, this);
+        deal = DealFrom(dialog);
+    }
+    if (deal) Play(*deal);
+}
 
 void MainWindow::ShowHelp() {
     ShowRules(engine_->data().GameRunning ? engine_->data().CurGName() : std::string());
@@ -343,13 +385,18 @@ void MainWindow::ShowFinish() {
     breath_.stop();
     const FinishFigures figures = *std::exchange(finish_, std::nullopt);
     FinishChoice choice = FinishChoice::Close;
+    std::optional<GameChoice> deal;
     {
-        FinishDialog dialog(figures, this);
+        FinishDialog dialog(figures, LoadOwnWins(*engine_, this), this);
         connect(&dialog, &FinishDialog::StatisticsAsked, this, &MainWindow::ShowGameStat);
-        connect(&dialog, &FinishDialog::HighScoreAsked, this, &MainWindow::ShowHighScore);
+        connect(&dialog, &FinishDialog::HighScoreAsked, this, [&] {
+            deal = DealOfHighScore(true);
+            if (deal) dialog.reject();
+        });
         dialog.exec();
         choice = dialog.Choice();
     }
+    if (deal) return Play(*deal);
     switch (choice) {
         case FinishChoice::NewGame: engine_->commands().NewGame(); return Refresh();
         case FinishChoice::SelectGame: return OpenSelect(Qt::WindowModal);

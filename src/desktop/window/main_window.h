@@ -77,11 +77,14 @@ private:
 
     /// Starts what a dialog has chosen.
     void Play(const GameChoice& choice);
+    /// Runs a window with a list of deals, and what a person chose to play of them. The number
+    /// chooser asks once more over it.
+    template <typename Report>
+    std::optional<GameChoice> DealFrom(Report& report);
+    /// `won`: marks the game that was just won.
+    std::optional<GameChoice> DealOfHighScore(bool won);
     /// A game begins, whoever asked for it: what belongs to the last one goes.
     void BeforeStart();
-    /// Shows a window of results, among them those of a game just won.
-    template <typename Dialog>
-    void RunReport(QWidget* parent);
     /// Shows a window that chooses a deal, and plays what was chosen.
     template <typename Dialog>
     void RunChooser();

@@ -129,13 +129,29 @@ std::optional<DateTime> ParseDateText(std::string_view text) {
     moment.month = reader.Short('/');
     moment.day = reader.Short('/');
     moment.year = reader.Fixed(4, ' ');
-    const int hour = reader.Short(':');
-    moment.minute = reader.Fixed(2, ':');
-    moment.second = reader.Fixed(2, ' ');
-    const bool afternoon = reader.Rest() == "PM";
-    if (!reader.Sound() || (!afternoon && reader.Rest() != "AM")) return std::nullopt;
-    moment.hour = hour % 12 + (afternoon ? 12 : 0);
-    return InRange(hour, 1, 12) && IsValid(moment) ? std::optional{moment} : std::nullopt;
+    const auto time = reader.Sound() ? ParseTimeText(reader.Rest()) : std::nullopt;
+    if (!time) return std::nullopt;
+    moment.hour = *time / 3600;
+    moment.minute = *time / 60 % 60;
+    moment.second = *time % 60;
+    return IsValid(moment) ? std::optional{moment} : std::nullopt;
+}
+
+std::optional<std::int32_t> ParseTimeText(std::string_view text) {
+    constexpr std::size_t kShort = 10;  // "8:26:17 AM"
+    if (text.size() != kShort && text.size() != kShort + 1) return std::nullopt;
+    const char* const end = text.data() + text.size();
+    const int tens = text.size() == kShort ? 0 : text[0] - '0';
+    const int hour = 10 * tens + end[-10] - '0';
+    const int minute = 10 * (end[-8] - '0') + end[-7] - '0';
+    const int second = 10 * (end[-5] - '0') + end[-4] - '0';
+    const bool afternoon = end[-2] == 'P';
+    bool sound = (text.size() == kShort) == (tens == 0);
+    for (const int digit : {10, 8, 7, 5, 4}) sound &= IsDigit(end[-digit]);
+    sound &= end[-9] == ':' && end[-6] == ':' && end[-3] == ' ' && end[-1] == 'M';
+    sound &= (afternoon || end[-2] == 'A') && InRange(hour, 1, 12) && minute < 60 && second < 60;
+    if (!sound) return std::nullopt;
+    return ((hour % 12 + (afternoon ? 12 : 0)) * 60 + minute) * 60 + second;
 }
 
 std::string FormatTime(std::int32_t seconds) {

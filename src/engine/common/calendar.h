@@ -46,6 +46,9 @@ std::string DateText(const DateTime& moment);
 /// Reads the form of `DateText`; empty when the text has another form or names no date.
 std::optional<DateTime> ParseDateText(std::string_view text);
 
+/// Reads what follows the date and its blank there, "12:51:26 PM", as seconds since midnight.
+std::optional<std::int32_t> ParseTimeText(std::string_view text);
+
 /// The date alone, as in "11/18/2026".
 std::string ShortDateText(const DateTime& moment);
 

@@ -59,7 +59,7 @@ bool AppendLine(const std::filesystem::path& file, std::string_view line) {
 }
 
 bool ForEachLine(const std::filesystem::path& file,
-                 const std::function<void(std::string_view)>& take) {
+                 const std::function<void(std::string_view)>& take, Progress* progress) {
     if (IsUnfit(file)) return false;
     std::ifstream in(file, std::ios::binary);
     std::error_code none;
@@ -73,9 +73,11 @@ bool ForEachLine(const std::filesystem::path& file,
         take(line);
     };
     while (in) {
+        if (progress && progress->Stopped) return false;
         buffer.resize(kept + std::max(kBlock, kept));
         in.read(buffer.data() + kept, static_cast<std::streamsize>(buffer.size() - kept));
         const std::size_t filled = kept + static_cast<std::size_t>(in.gcount());
+        if (progress) progress->Done += in.gcount();
         std::string_view rest(buffer.data(), filled);
         std::size_t searched = kept;
         for (std::size_t end; (end = rest.find('\n', searched)) != std::string_view::npos;) {

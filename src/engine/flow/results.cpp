@@ -1,10 +1,8 @@
 #include "engine/flow/results.h"
 
-#include <fstream>
 #include <system_error>
 
 #include "engine/common/text_file.h"
-#include "engine/reports/export.h"
 
 namespace varnello {
 
@@ -23,30 +21,39 @@ void Results::ClearStat() {
     messages_.Inform("Statistics, High Score and Log have been Cleared.");
 }
 
-void Results::OpenScores() {
-    score_.OpenAllScore();
-    TellUnread();
+void Results::OpenScores(LoadedScores loaded) {
+    score_.Take(std::move(loaded));
+    TellUnread(score_.Unread());
 }
 
-void Results::TellUnread() {
+void Results::TellUnread(const std::vector<std::filesystem::path>& unread) {
     std::string files;
-    for (const std::filesystem::path& file : score_.Unread()) {
+    for (const std::filesystem::path& file : unread) {
         if (toldUnread_.insert(file).second) files += '\n' + PathText(file);
     }
     if (files.empty()) return;
     messages_.Warn("These files of results can't be read, and their games are missing:" + files);
 }
 
-void Results::ExportStat(const ChosenFile& file) {
-    score_.OpenAllScore();
-    std::ofstream out(file.Path, std::ios::binary);
-    WriteStat(out, score_, data_, clock_.Now(), dates_);
-    out.close();
+StatExport Results::PrepareExport(const ChosenFile& file) const {
+    return {.Target = file.Path,
+            .Files = score_.Files(),
+            .CreatedBy = data_.CurPlayer(),
+            .Now = clock_.Now(),
+            .Dates = dates_};
+}
+
+void Results::TellExport(const ChosenFile& file, const StatExport& written) {
     toldUnread_.clear();  // a report that others read is worth a word of its own
-    TellUnread();
-    score_.CloseScore();
-    if (!out) return;
+    TellUnread(written.Unread);
     messages_.Inform("Statistics Successfully Exported to " + file.Name);
+}
+
+void Results::ExportStat(const ChosenFile& file) {
+    StatExport report = PrepareExport(file);
+    Progress unseen;
+    if (report.Run(unseen)) TellExport(file, report);
+    score_.CloseScore();
 }
 
 }  // namespace varnello

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "engine/desktop.h"
+#include "engine/reports/export.h"
 #include "engine/scores/score_store.h"
 
 namespace varnello {
@@ -27,14 +28,18 @@ public:
     /// Deletes the score files of all listed players, and says so; the list of this run stays. To
     /// be asked before: `kClearStatQuestion`.
     void ClearStat();
-    /// Opens the score list for a window, and tells of files that can't be read, of each once.
-    void OpenScores();
+    /// Opens the score list for a window with what was loaded, and tells of files that can't be
+    /// read, of each once.
+    void OpenScores(LoadedScores loaded);
     /// Writes the report over all results to a file, and says so. Silent when it can't be written.
     /// Closes the score list.
     void ExportStat(const ChosenFile& file);
+    /// The same in two halves, for a window that has the report written meanwhile.
+    StatExport PrepareExport(const ChosenFile& file) const;
+    void TellExport(const ChosenFile& file, const StatExport& written);
 
 private:
-    void TellUnread();
+    void TellUnread(const std::vector<std::filesystem::path>& unread);
 
     cData& data_;
     cScore& score_;

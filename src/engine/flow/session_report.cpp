@@ -8,43 +8,33 @@
 namespace varnello {
 namespace {
 
-using enum RecordField;
-constexpr RecordField kRowFields[] = {Game, GameNo, Player, Time, Moves, Status, Score};
-constexpr RecordField kDetails[] = {Number, Time, Moves, Score};
-
-ReportRow RunningRow(const Engine& engine, RecordFields fields) {
-    const double number = engine.score().SesTop() + 1.0;
-    ReportRow row =
-        RowOf(engine.score().CurrentGame(Outcome::NotWon), number, fields, engine.dates());
-    const auto status = std::find(fields.begin(), fields.end(), Status);
-    if (status != fields.end()) {
-        row[static_cast<std::size_t>(status - fields.begin())].Text = "Running";
-    }
-    return row;
-}
-
-std::vector<ReportRow> Rows(const Engine& engine, RecordFields fields) {
-    const cScore& score = engine.score();
-    std::vector<ReportRow> rows;
-    for (std::int16_t i = 1; i <= score.SesTop(); ++i) {
-        rows.push_back(RowOf(score.GetSes(i), i, fields, engine.dates()));
-    }
-    if (engine.data().GameRunning) rows.push_back(RunningRow(engine, fields));
-    return rows;
-}
+using namespace columns;
+constexpr RecordColumn kSession[] = {
+    Game, {RecordField::GameNo, "Game No"}, Player, Time, Moves, Status, Score};
+constexpr RecordColumn kDetails[] = {{RecordField::Number, "No."}, Time, Moves, Score};
 
 }  // namespace
 
-std::vector<Column> SessionColumns() {
-    auto columns = ColumnsOf(kRowFields);
-    columns[1].Title = "Game No";
-    return columns;
+const RecordColumns kSessionColumns = kSession;
+const RecordColumns kDetailColumns = kDetails;
+
+std::vector<ReportRow> SessionRows(const Engine& engine, RecordColumns columns) {
+    const cScore& score = engine.score();
+    std::vector<ReportRow> rows;
+    for (std::int16_t i = 1; i <= score.SesTop(); ++i) {
+        rows.push_back(RowOf(score.GetSes(i), i, columns, engine.dates()));
+    }
+    if (engine.data().GameRunning) rows.push_back(RunningRow(engine, columns));
+    return rows;
 }
 
-std::vector<Column> DetailColumns() {
-    auto columns = ColumnsOf(kDetails);
-    columns[0].Title = "No.";
-    return columns;
+ReportRow RunningRow(const Engine& engine, RecordColumns columns) {
+    const double number = engine.score().SesTop() + 1.0;
+    ReportRow row =
+        RowOf(engine.score().CurrentGame(Outcome::NotWon), number, columns, engine.dates());
+    const std::size_t status = PlaceOf(RecordField::Status, columns);
+    if (status < row.size()) row[status].Text = "Running";
+    return row;
 }
 
 std::string SessionElapsedLabel(const Engine& engine) {
@@ -75,13 +65,5 @@ GameLabels GameLabelsOf(const Engine& engine) {
             .Time = "Time Elapsed : " + FormatTime(data.CurTime),
             .Player = "Player Name : " + data.CurPlayer()};
 }
-
-std::vector<ReportRow> SessionRows(const Engine& engine) { return Rows(engine, kRowFields); }
-
-ReportRow RunningSessionRow(const Engine& engine) { return RunningRow(engine, kRowFields); }
-
-std::vector<ReportRow> DetailRows(const Engine& engine) { return Rows(engine, kDetails); }
-
-ReportRow RunningDetailRow(const Engine& engine) { return RunningRow(engine, kDetails); }
 
 }  // namespace varnello

@@ -24,14 +24,11 @@ struct GameLabels {
 };
 GameLabels GameLabelsOf(const Engine& engine);
 
-std::vector<Column> SessionColumns();
+/// The list of games, and the same games by number, time, moves and score.
+extern const RecordColumns kSessionColumns;
+extern const RecordColumns kDetailColumns;
 /// A row for each game that has ended and, while a game runs, a last one for that.
-std::vector<ReportRow> SessionRows(const Engine& engine);
-ReportRow RunningSessionRow(const Engine& engine);
-
-/// The same games by number, time, moves and score.
-std::vector<Column> DetailColumns();
-std::vector<ReportRow> DetailRows(const Engine& engine);
-ReportRow RunningDetailRow(const Engine& engine);
+std::vector<ReportRow> SessionRows(const Engine& engine, RecordColumns columns);
+ReportRow RunningRow(const Engine& engine, RecordColumns columns);
 
 }  // namespace varnello

@@ -1,11 +1,15 @@
 #include "engine/reports/export.h"
 
+#include <fstream>
 #include <initializer_list>
-#include <string>
+#include <system_error>
 
 #include "engine/common/calendar.h"
 #include "engine/common/utf8.h"
+#include "engine/definitions/catalogue.h"
 #include "engine/reports/row.h"
+#include "engine/scores/sums.h"
+#include "engine/settings/data.h"
 
 namespace varnello {
 namespace {
@@ -14,6 +18,8 @@ constexpr std::size_t kZone = 14;           // columns
 constexpr std::size_t kGameNameWidth = 25;  // columns
 constexpr std::size_t kCutNames = 12;       // characters of a name beside others
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::int64_t kWritingPerReading =
+    8;  // how much longer a game takes to write than to read
 
 /// A whole number as an item: a blank or the minus sign, the digits, a blank.
 std::string Item(std::int32_t number) {
@@ -63,38 +69,48 @@ void WriteGeneral(ReportWriter& report, const ScoreSummary& all) {
                  Item(all.Moves), Item(all.Score)});
 }
 
-void WritePlayers(ReportWriter& report, const cScore& score, const cData& data) {
+void WritePlayers(ReportWriter& report, const StatExport& head, const ScoreList& list,
+                  const ScoreSums& sums) {
     report.Heading("Player Statistics", 17);
     report.Line({"Player", "Played", "Won", "Lost", "Time", "Moves", "Score"});
-    for (std::int16_t slot = 1; slot <= data.TotalPlayers(); ++slot) {
-        const std::string name = data.GetPlayer(slot);
-        const ScoreSummary sum = score.PlayerSummary(name);
-        report.Line({name, Item(sum.Played), Item(sum.Won), Item(sum.Lost), FormatTime(sum.Time),
-                     Item(sum.Moves), Item(sum.Score)});
+    for (const ScoreFile& file : head.Files) {
+        const auto id = list.Players().Find(file.Player);
+        const ScoreSummary sum = id ? sums.byPlayer[*id].summary : ScoreSummary{};
+        report.Line({file.Player, Item(sum.Played), Item(sum.Won), Item(sum.Lost),
+                     FormatTime(sum.Time), Item(sum.Moves), Item(sum.Score)});
     }
 }
 
-void WriteGames(ReportWriter& report, const cScore& score, const cData& data) {
+void WriteGames(ReportWriter& report, const ScoreList& list, const ScoreSums& sums) {
     const auto wide = [](const std::string& name) {
         const std::size_t width = CharacterCount(name);
         return name + Blanks(width < kGameNameWidth ? kGameNameWidth - width : 0);
     };
     report.Heading("Games Statistics", 16);
     report.Line({wide("Game") + "Played", "Won", "Time", "Moves", "Score"});
-    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
-        const std::string name = data.GetGName(id);
-        const ScoreSummary sum = score.GameSummary(name);
-        report.Line({wide(name) + Item(sum.Played), Item(sum.Won), FormatTime(sum.Time),
-                     Item(sum.Moves), Item(sum.Score)});
+    for (const GameRow& game : kCatalogue) {
+        const auto id = list.Games().Find(game.Name);
+        const ScoreSummary sum = id ? sums.byGame[*id] : ScoreSummary{};
+        report.Line({wide(std::string(game.Name)) + Item(sum.Played), Item(sum.Won),
+                     FormatTime(sum.Time), Item(sum.Moves), Item(sum.Score)});
     }
 }
 
-void WriteRecords(ReportWriter& report, const cScore& score, const DateForms& dates) {
+void WriteRecords(ReportWriter& report, const ScoreList& list, const DateForms& dates,
+                  Progress& progress, std::int64_t count) {
+    constexpr std::size_t kLook = 1024;     // records between two looks at the progress
     report.Heading("Full Statistics", 14);  // one hyphen short, as the report always was
     report.Line({"Date", "Game", "Player", "Status", "Score", "Moves", "Time", "Game No"});
-    for (std::int32_t index = 1; index <= score.ScoreTop(); ++index) {
-        const ScoreRecord record = score.GetScore(index);
-        const auto moment = ParseDateText(record.Date);
+    const std::int64_t before = progress.Done;
+    for (std::size_t position = 0; position < list.Size(); ++position) {
+        if (position % kLook == 0) {
+            if (progress.Stopped) return;
+            progress.Done = before + static_cast<std::int64_t>(static_cast<double>(count) *
+                                                               static_cast<double>(position) /
+                                                               static_cast<double>(list.Size()));
+        }
+        const ScoreRecord record = list.Record(position);
+        const auto moment = ScoreList::DateOf(list.At(position));
         report.Line({moment ? dates.Date(*moment) : record.Date,
                      std::string(FirstCharacters(record.Game, kCutNames)),
                      std::string(FirstCharacters(record.Player, kCutNames)),
@@ -104,10 +120,19 @@ void WriteRecords(ReportWriter& report, const cScore& score, const DateForms& da
     }
 }
 
+/// Whether a report may take the place of what is there.
+bool IsPlainOrMissing(const std::filesystem::path& file) {
+    std::error_code none;
+    const auto kind = std::filesystem::status(file, none).type();
+    return kind == std::filesystem::file_type::regular ||
+           kind == std::filesystem::file_type::not_found;
+}
+
 }  // namespace
 
-void WriteStat(std::ostream& out, const cScore& score, const cData& data, const DateTime& now,
-               const DateForms& dates) {
+void WriteStat(std::ostream& out, const StatExport& head, const ScoreList& list, Progress& progress,
+               std::int64_t count) {
+    const ScoreSums sums(list);
     ReportWriter report(out);
     const auto twoBlanks = [&] {
         report.Blank();
@@ -117,18 +142,42 @@ void WriteStat(std::ostream& out, const cScore& score, const cData& data, const 
     report.Blank();
     report.Line({std::string(25, '*')});
     report.Blank();
-    report.Line({"Created By", data.CurPlayer()});
-    report.Line({"Created Date", dates.DateAndTime(now)});
+    report.Line({"Created By", head.CreatedBy});
+    report.Line({"Created Date", head.Dates.DateAndTime(head.Now)});
     report.Blank();
     report.Line({std::string(34, '-')});
     report.Blank();
-    WriteGeneral(report, score.AllSummary());
+    WriteGeneral(report, sums.all);
     twoBlanks();
-    WritePlayers(report, score, data);
+    WritePlayers(report, head, list, sums);
     twoBlanks();
-    WriteGames(report, score, data);
+    WriteGames(report, list, sums);
     twoBlanks();
-    WriteRecords(report, score, dates);
+    WriteRecords(report, list, head.Dates, progress, count);
+}
+
+std::int64_t StatExport::Whole() const { return BytesOf(Files) * (1 + kWritingPerReading); }
+
+bool StatExport::Run(Progress& progress) {
+    LoadedScores loaded = LoadScores(Files, progress);
+    Unread = std::move(loaded.Unread);
+    std::error_code error;
+    const std::filesystem::path target = std::filesystem::weakly_canonical(Target, error);
+    if (error || progress.Stopped || !IsPlainOrMissing(target)) return false;
+    std::filesystem::path part = target;
+    part += ".part";
+    std::ofstream out(part, std::ios::binary);
+    if (!out) return false;
+    WriteStat(out, *this, loaded.List, progress, Whole() - BytesOf(Files));
+    out.close();
+    if (out && !progress.Stopped) {
+        const auto old = std::filesystem::status(target, error);
+        if (!error) std::filesystem::permissions(part, old.permissions(), error);
+        std::filesystem::rename(part, target, error);
+        if (!error) return true;
+    }
+    std::filesystem::remove(part, error);
+    return false;
 }
 
 }  // namespace varnello

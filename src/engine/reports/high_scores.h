@@ -11,21 +11,24 @@
 namespace varnello {
 
 /// What the four sheets show.
-extern const RecordFields kTopFields;
-extern const RecordFields kTopOfGameFields;
-extern const RecordFields kTopOfPlayerFields;
-extern const RecordFields kFinishedFields;
+extern const RecordColumns kTopColumns;
+extern const RecordColumns kTopOfGameColumns;
+extern const RecordColumns kTopOfPlayerColumns;
+extern const RecordColumns kFinishedColumns;
+
+struct Ranking {
+    std::vector<ReportRow> Rows;
+    std::vector<std::uint32_t> Positions;  ///< of each row's game in the open list, from 0
+};
 
 /// The best scores of all games, won and lost alike.
-std::vector<ReportRow> TopRows(cScore& score, const DateForms& dates);
-std::vector<ReportRow> TopRowsOfGame(cScore& score, const std::string& game,
-                                     const DateForms& dates);
-std::vector<ReportRow> TopRowsOfPlayer(cScore& score, const std::string& player,
-                                       const DateForms& dates);
+Ranking TopRows(cScore& score, const DateForms& dates);
+Ranking TopRowsOfGame(cScore& score, const std::string& game, const DateForms& dates);
+Ranking TopRowsOfPlayer(cScore& score, const std::string& player, const DateForms& dates);
 
 /// What finished games are ranked by.
 enum class FinishedBy { Score, Moves, Time };
 /// The best won games: highest scores, fewest moves or shortest times.
-std::vector<ReportRow> FinishedRows(cScore& score, FinishedBy by, const DateForms& dates);
+Ranking FinishedRows(cScore& score, FinishedBy by, const DateForms& dates);
 
 }  // namespace varnello

@@ -8,8 +8,9 @@
 namespace varnello {
 namespace {
 
-using enum RecordField;
-constexpr RecordField kFields[] = {Number, Player, Game, Score, Time, Moves, Status, Date, GameNo};
+using namespace columns;
+constexpr RecordColumn kColumns[] = {
+    Number, Player, Game, Score, Time, Moves, Status, Date, {RecordField::GameNo, "Game Number"}};
 
 template <int Days>
 bool DaysAtMost(std::int64_t days, std::int64_t /*months*/) {
@@ -31,27 +32,9 @@ constexpr AgeChoice kAges[] = {
     {"Show All", "all", nullptr},
 };
 
-/// Each text's place in the alphabet, by its number in the pool.
-std::vector<double> Alphabet(const TextPool& pool) {
-    std::vector<TextPool::Id> ids(pool.Size());
-    for (TextPool::Id id = 0; id < ids.size(); ++id) ids[id] = id;
-    std::sort(ids.begin(), ids.end(), [&](auto a, auto b) { return pool.Text(a) < pool.Text(b); });
-    std::vector<double> places(ids.size());
-    for (std::size_t place = 0; place < ids.size(); ++place) {
-        places[ids[place]] = static_cast<double>(place);
-    }
-    return places;
-}
-
 }  // namespace
 
-const RecordFields kLogFields = kFields;
-
-std::vector<Column> LogColumns() {
-    auto columns = ColumnsOf(kFields);
-    columns.back().Title = "Game Number";
-    return columns;
-}
+const RecordColumns kLogColumns = kColumns;
 
 std::span<const AgeChoice> AgeChoices() { return kAges; }
 
@@ -69,6 +52,7 @@ std::vector<std::uint32_t> LogPositions(const ScoreList& list, const LogFilter& 
         return moment &&
                filter.Age->Passes(today - DayNumber(*moment), month - MonthNumber(*moment));
     };
+    positions.reserve(filter.Player.empty() && filter.Game.empty() ? list.Size() : 0);
     for (std::size_t position = 0; position < list.Size(); ++position) {
         const CompactScore& score = list.At(position);
         if (!filter.Player.empty() && score.Player != *player) continue;
@@ -78,31 +62,27 @@ std::vector<std::uint32_t> LogPositions(const ScoreList& list, const LogFilter& 
     return positions;
 }
 
-std::function<double(std::uint32_t position)> SortValue(const ScoreList& list, RecordField field) {
-    constexpr double kFirst = -std::numeric_limits<double>::infinity();
-    switch (field) {
-        case Number: return [](std::uint32_t position) { return static_cast<double>(position); };
-        case Player:
-            return [&list, places = Alphabet(list.Players())](std::uint32_t position) {
-                return places[list.At(position).Player];
-            };
-        case Game:
-            return [&list, places = Alphabet(list.Games())](std::uint32_t position) {
-                return places[list.At(position).Game];
-            };
-        case Score: return [&](std::uint32_t position) { return list.At(position).Score; };
-        case Time: return [&](std::uint32_t position) { return list.At(position).Time; };
-        case Moves: return [&](std::uint32_t position) { return list.At(position).Moves; };
-        case Status:  // "Lost" before "Won"
-            return [&](std::uint32_t position) { return list.At(position).Status == 1; };
-        case Date:
-            return [&](std::uint32_t position) {
-                const CompactScore& score = list.At(position);
-                return score.Dated ? static_cast<double>(score.Date) : kFirst;
-            };
-        case GameNo: break;
+LogTotals TotalsOf(const ScoreList& list, std::span<const std::uint32_t> positions) {
+    LogTotals totals;
+    if (!positions.empty()) totals.BestScore = list.At(positions.front()).Score;
+    for (const std::uint32_t position : positions) {
+        const CompactScore& score = list.At(position);
+        totals.Sum.Add(score);
+        totals.BestScore = std::max(totals.BestScore, score.Score);
     }
-    return [&](std::uint32_t position) { return list.NumberOf(list.At(position)).Value(); };
+    return totals;
+}
+
+std::optional<std::uint32_t> NewestOf(const ScoreList& list) {
+    std::optional<std::uint32_t> newest;
+    std::int64_t date = std::numeric_limits<std::int64_t>::min();
+    for (std::uint32_t position = 0; position < list.Size(); ++position) {
+        const CompactScore& score = list.At(position);
+        if (!score.Dated || score.Date < date) continue;
+        date = score.Date;
+        newest = position;
+    }
+    return newest;
 }
 
 }  // namespace varnello

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,8 +13,7 @@
 /// The plain log of all games, window "Log Statistics".
 namespace varnello {
 
-extern const RecordFields kLogFields;
-std::vector<Column> LogColumns();
+extern const RecordColumns kLogColumns;
 
 /// How old a game may be. Ages are calendar differences to the present.
 struct AgeChoice {
@@ -35,8 +34,14 @@ struct LogFilter {
 std::vector<std::uint32_t> LogPositions(const ScoreList& list, const LogFilter& filter,
                                         const DateTime& now);
 
-/// What a record of the list sorts by in a column, without working out what the column shows.
-/// Texts sort by alphabet.
-std::function<double(std::uint32_t position)> SortValue(const ScoreList& list, RecordField field);
+/// What some games have in common.
+struct LogTotals {
+    ScoreSummary Sum;
+    std::int32_t BestScore = 0;
+};
+LogTotals TotalsOf(const ScoreList& list, std::span<const std::uint32_t> positions);
+
+/// The position of the game that ended last, from 0; of none when no date can be read.
+std::optional<std::uint32_t> NewestOf(const ScoreList& list);
 
 }  // namespace varnello

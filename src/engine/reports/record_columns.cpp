@@ -1,5 +1,6 @@
 #include "engine/reports/record_columns.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "engine/common/calendar.h"
@@ -7,19 +8,19 @@
 namespace varnello {
 namespace {
 
-Column ColumnOf(RecordField field) {
+ColumnKind KindOf(RecordField field) {
     switch (field) {
-        case RecordField::Number: return {"S No.", ColumnKind::Value};
-        case RecordField::Player: return {"Player"};
-        case RecordField::Game: return {"Game"};
-        case RecordField::Score: return {"Score", ColumnKind::Value};
-        case RecordField::Time: return {"Time", ColumnKind::Value};
-        case RecordField::Moves: return {"Moves", ColumnKind::Value};
-        case RecordField::Status: return {"Status"};
-        case RecordField::Date: return {"Date", ColumnKind::Label};
+        case RecordField::Player:
+        case RecordField::Game:
+        case RecordField::Status: return ColumnKind::Text;
+        case RecordField::Date: return ColumnKind::Label;
+        case RecordField::Number:
+        case RecordField::Score:
+        case RecordField::Time:
+        case RecordField::Moves:
         case RecordField::GameNo: break;
     }
-    return {"Game No.", ColumnKind::Value};
+    return ColumnKind::Value;
 }
 
 ReportCell DateCell(const std::string& text, const DateForms& dates) {
@@ -46,16 +47,25 @@ ReportCell CellOf(const ScoreRecord& record, double number, RecordField field,
 
 }  // namespace
 
-std::vector<Column> ColumnsOf(RecordFields fields) {
-    std::vector<Column> columns;
-    for (const RecordField field : fields) columns.push_back(ColumnOf(field));
-    return columns;
+std::vector<Column> ColumnsOf(RecordColumns columns) {
+    std::vector<Column> made;
+    for (const auto& [field, title] : columns) made.push_back({title, KindOf(field)});
+    return made;
 }
 
-ReportRow RowOf(const ScoreRecord& record, double number, RecordFields fields,
+std::size_t PlaceOf(RecordField field, RecordColumns columns) {
+    const auto found =
+        std::find_if(columns.begin(), columns.end(),
+                     [&](const RecordColumn& column) { return column.Field == field; });
+    return static_cast<std::size_t>(found - columns.begin());
+}
+
+ReportRow RowOf(const ScoreRecord& record, double number, RecordColumns columns,
                 const DateForms& dates) {
     ReportRow row;
-    for (const RecordField field : fields) row.push_back(CellOf(record, number, field, dates));
+    for (const auto& column : columns) {
+        row.push_back(CellOf(record, number, column.Field, dates));
+    }
     return row;
 }
 

@@ -13,13 +13,33 @@ namespace varnello {
 
 enum class RecordField { Number, Player, Game, Score, Time, Moves, Status, Date, GameNo };
 
-using RecordFields = std::span<const RecordField>;
+/// A column of such a list. A list is a table of these.
+struct RecordColumn {
+    RecordField Field;
+    std::string_view Title;
+};
+using RecordColumns = std::span<const RecordColumn>;
 
-std::vector<Column> ColumnsOf(RecordFields fields);
+/// The columns as most lists call them.
+namespace columns {
+inline constexpr RecordColumn Number{RecordField::Number, "S No."};
+inline constexpr RecordColumn Player{RecordField::Player, "Player"};
+inline constexpr RecordColumn Game{RecordField::Game, "Game"};
+inline constexpr RecordColumn Score{RecordField::Score, "Score"};
+inline constexpr RecordColumn Time{RecordField::Time, "Time"};
+inline constexpr RecordColumn Moves{RecordField::Moves, "Moves"};
+inline constexpr RecordColumn Status{RecordField::Status, "Status"};
+inline constexpr RecordColumn Date{RecordField::Date, "Date"};
+inline constexpr RecordColumn GameNo{RecordField::GameNo, "Game No."};
+}  // namespace columns
+
+std::vector<Column> ColumnsOf(RecordColumns columns);
+/// Where a field stands among them, from 0; it is one of them.
+std::size_t PlaceOf(RecordField field, RecordColumns columns);
 
 /// The cells of a game; `number` is its place in the list, from 1. A date that can't be read is
 /// shown as it stands and sorts first.
-ReportRow RowOf(const ScoreRecord& record, double number, RecordFields fields,
+ReportRow RowOf(const ScoreRecord& record, double number, RecordColumns columns,
                 const DateForms& dates);
 
 }  // namespace varnello

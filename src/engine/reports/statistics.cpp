@@ -1,6 +1,5 @@
 #include "engine/reports/statistics.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "engine/common/calendar.h"
@@ -10,7 +9,7 @@
 namespace varnello {
 namespace {
 
-constexpr std::int32_t kMaxCharted = 50;
+constexpr std::size_t kMaxCharted = 50;
 
 double OneForZero(std::int32_t divisor) { return divisor == 0 ? 1.0 : divisor; }
 
@@ -89,6 +88,12 @@ std::span<const PeriodChoice> PeriodChoices() {
     return kChoices;
 }
 
+std::array<Column, 3> PeriodColumns(const PeriodChoice& choice) {
+    return {{{choice.Heading, ColumnKind::Label},
+             {"Played", ColumnKind::Value},
+             {"Won", ColumnKind::Value}}};
+}
+
 std::vector<PeriodSummary> PeriodRows(const cScore& score, const PeriodChoice& choice,
                                       const DateTime& now) {
     std::vector<DateTime> dates;
@@ -107,12 +112,10 @@ std::vector<ReportRow> PeriodLines(const std::vector<PeriodSummary>& periods) {
     return rows;
 }
 
-std::vector<GameFigures> FirstGames(const cScore& score, std::string_view game) {
-    const std::int32_t count = std::min(score.GameSummary(game).Played, kMaxCharted);
-    std::vector<GameFigures> games;
-    for (std::int32_t n = 1; n <= count; ++n) {
-        const ScoreRecord record = score.GetGameScore(game, n);
-        games.push_back({record.Score, record.Moves, record.Time});
+std::vector<ScoreRecord> FirstGames(const cScore& score, std::string_view game) {
+    std::vector<ScoreRecord> games;
+    for (const std::uint32_t position : score.FirstOf(game, kMaxCharted)) {
+        games.push_back(score.List().Record(position));
     }
     return games;
 }

@@ -46,6 +46,9 @@ struct PeriodChoice {
 };
 std::span<const PeriodChoice> PeriodChoices();
 
+/// The columns of the list of a choice's periods.
+std::array<Column, 3> PeriodColumns(const PeriodChoice& choice);
+
 /// The periods of a choice, oldest first.
 std::vector<PeriodSummary> PeriodRows(const cScore& score, const PeriodChoice& choice,
                                       const DateTime& now);
@@ -55,6 +58,6 @@ std::vector<ReportRow> PeriodLines(const std::vector<PeriodSummary>& periods);
 /// Score, moves and seconds of a game, as the row charts show them.
 using GameFigures = std::array<std::int32_t, 3>;
 /// The first games of one kind in list order, at most 50.
-std::vector<GameFigures> FirstGames(const cScore& score, std::string_view game);
+std::vector<ScoreRecord> FirstGames(const cScore& score, std::string_view game);
 
 }  // namespace varnello

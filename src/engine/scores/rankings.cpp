@@ -18,15 +18,18 @@ void cScore::Sort(std::string_view Game, std::string_view Player, std::int16_t N
     const auto scoreAt = [&](std::uint32_t position) {
         return position == 0 ? 0 : list_.At(position - 1).Score;
     };
-    for (std::uint32_t position = 1; position <= list_.Size(); ++position) {
-        const CompactScore& record = list_.At(position - 1);
-        if (record.Score <= 0 || record.Score < scoreAt(topList_.back())) continue;
+    std::int32_t least = 1;  // what a score has to reach now
+    std::uint32_t position = 0;
+    for (const CompactScore& record : list_.All()) {
+        ++position;
+        if (record.Score < least) continue;
         if (NonZeroStatus == 1 && record.Status == 0) continue;
         if (!Game.empty() && record.Game != *game) continue;
         if (!Player.empty() && record.Player != *player) continue;
         std::size_t place = 1;
         while (record.Score < scoreAt(topList_[place])) ++place;
         PutAt(place, position);
+        least = std::max(least, scoreAt(topList_.back()));
     }
 }
 

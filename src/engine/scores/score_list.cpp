@@ -1,5 +1,7 @@
 #include "engine/scores/score_list.h"
 
+#include <future>
+
 #include "engine/common/number_text.h"
 
 namespace varnello {
@@ -16,16 +18,28 @@ std::optional<std::int64_t> PlainDigits(std::string_view text) {
 
 }  // namespace
 
+std::optional<std::int64_t> DateSequence::Read(std::string_view text) {
+    if (!day_.empty() && text.starts_with(day_)) {
+        if (const auto time = ParseTimeText(text.substr(day_.size()))) return midnight_ + *time;
+        return std::nullopt;
+    }
+    const auto moment = ParseDateText(text);
+    if (!moment) return std::nullopt;
+    day_ = text.substr(0, text.find(' ') + 1);
+    midnight_ = SecondsSinceEpoch({moment->year, moment->month, moment->day});
+    return SecondsSinceEpoch(*moment);
+}
+
 std::uint16_t ScoreList::AddPlayer(std::string_view name) {
     return static_cast<std::uint16_t>(players_.Keep(name));
 }
 
 void ScoreList::Add(const ScoreFields& fields, std::uint16_t player) {
     using Form = CompactScore::Form;
-    CompactScore score;
-    if (const auto moment = ParseDateText(fields.Date)) {
+    CompactScore score{};
+    if (const auto moment = dates_.Read(fields.Date)) {
         score.Dated = true;
-        score.Date = SecondsSinceEpoch(*moment);
+        score.Date = *moment;
     } else {
         score.Date = oddTexts_.Keep(fields.Date);
     }
@@ -47,19 +61,29 @@ void ScoreList::Add(const ScoreFields& fields, std::uint16_t player) {
     scores_.push_back(score);
 }
 
-void ScoreList::Append(const ScoreList& other) {
-    const auto games = games_.KeepAll(other.games_);
-    const auto players = players_.KeepAll(other.players_);
-    const auto oddTexts = oddTexts_.KeepAll(other.oddTexts_);
-    for (CompactScore score : other.scores_) {
-        score.Game = games[score.Game];
-        score.Player = static_cast<std::uint16_t>(players[score.Player]);
-        if (!score.Dated) score.Date = oddTexts[static_cast<std::size_t>(score.Date)];
-        if (score.NumberForm == CompactScore::Form::Text) {
-            score.Number = oddTexts[static_cast<std::size_t>(score.Number)];
-        }
-        scores_.push_back(score);
+void ScoreList::Append(std::span<const ScoreList> lists) {
+    std::size_t end = scores_.size();
+    for (const ScoreList& list : lists) end += list.Size();
+    std::size_t at = scores_.size();
+    scores_.resize(end);
+    std::vector<std::future<void>> copies;
+    for (const ScoreList& list : lists) {
+        copies.push_back(std::async(
+            [&list, games = games_.KeepAll(list.games_), players = players_.KeepAll(list.players_),
+             oddTexts = oddTexts_.KeepAll(list.oddTexts_), to = scores_.data() + at]() mutable {
+                for (CompactScore score : list.scores_) {
+                    score.Game = games[score.Game];
+                    score.Player = static_cast<std::uint16_t>(players[score.Player]);
+                    if (!score.Dated) score.Date = oddTexts[static_cast<std::size_t>(score.Date)];
+                    if (score.NumberForm == CompactScore::Form::Text) {
+                        score.Number = oddTexts[static_cast<std::size_t>(score.Number)];
+                    }
+                    *to++ = score;
+                }
+            }));
+        at += list.Size();
     }
+    for (auto& copy : copies) copy.get();
 }
 
 ScoreRecord ScoreList::Record(std::size_t position) const {

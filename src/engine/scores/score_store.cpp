@@ -1,9 +1,7 @@
 #include "engine/scores/score_store.h"
 
 #include <algorithm>
-#include <future>
 #include <limits>
-#include <numeric>
 #include <system_error>
 
 #include "engine/common/text_file.h"
@@ -12,27 +10,6 @@ namespace varnello {
 namespace {
 
 constexpr std::size_t kMaxSesGames = std::numeric_limits<std::int16_t>::max();
-constexpr std::uintmax_t kShortLine = 40;            // bytes; few lines are shorter
-constexpr std::uintmax_t kMostReserved = 4'000'000;  // records, whatever a file's size promises
-
-struct FileScores {
-    ScoreList list;
-    std::filesystem::path unread;  ///< the file when it can't be read, or not to its end
-};
-
-FileScores ReadScores(const std::filesystem::path& file, const std::string& player) {
-    FileScores scores;
-    ScoreList& list = scores.list;
-    std::error_code none;
-    const std::uintmax_t bytes = std::filesystem::file_size(file, none);
-    if (!none) list.Reserve(static_cast<std::size_t>(std::min(bytes / kShortLine, kMostReserved)));
-    const std::uint16_t number = list.AddPlayer(player);
-    const bool whole = ForEachLine(file, [&](std::string_view line) {
-        if (const auto fields = ReadScoreLine(line)) list.Add(*fields, number);
-    });
-    if (!whole) scores.unread = file;
-    return scores;
-}
 
 }  // namespace
 
@@ -89,28 +66,30 @@ void cScore::AddSesGame(Outcome outcome) {
 
 void cScore::OpenScore(const std::string& Player) {
     sums_.reset();
-    const FileScores scores = ReadScores(ScorePath(data_, Player), Player);
-    list_.Append(scores.list);
-    if (!scores.unread.empty()) unread_.push_back(scores.unread);
+    Progress unseen;
+    const LoadedScores loaded = LoadScores({{ScorePath(data_, Player), Player}}, unseen);
+    list_.Append({&loaded.List, 1});
+    unread_.insert(unread_.end(), loaded.Unread.begin(), loaded.Unread.end());
+}
+
+std::vector<ScoreFile> cScore::Files() const {
+    std::vector<ScoreFile> files;
+    for (std::int16_t slot = 1; slot <= data_.TotalPlayers(); ++slot) {
+        const std::string player = data_.GetPlayer(slot);
+        files.push_back({ScorePath(data_, player), player});
+    }
+    return files;
 }
 
 void cScore::OpenAllScore() {
+    Progress unseen;
+    Take(LoadScores(Files(), unseen));
+}
+
+void cScore::Take(LoadedScores loaded) {
     CloseScore();
-    std::vector<std::future<FileScores>> files;
-    for (std::int16_t slot = 1; slot <= data_.TotalPlayers(); ++slot) {
-        const std::string player = data_.GetPlayer(slot);
-        files.push_back(std::async(ReadScores, ScorePath(data_, player), player));
-    }
-    std::vector<FileScores> all;
-    all.reserve(files.size());
-    for (auto& file : files) all.push_back(file.get());
-    list_.Reserve(std::accumulate(
-        all.begin(), all.end(), std::size_t{0},
-        [](auto sum, const FileScores& scores) { return sum + scores.list.Size(); }));
-    for (const FileScores& scores : all) {
-        list_.Append(scores.list);
-        if (!scores.unread.empty()) unread_.push_back(scores.unread);
-    }
+    list_ = std::move(loaded.List);
+    unread_ = std::move(loaded.Unread);
 }
 
 void cScore::CloseScore() {
@@ -127,20 +106,42 @@ const ScoreSums& cScore::Sums() const {
 
 ScoreSummary cScore::GameSummary(std::string_view Game) const {
     const auto id = list_.Games().Find(Game);
-    return id ? Sums().byGame[*id].summary : ScoreSummary{};
+    return id ? Sums().byGame[*id] : ScoreSummary{};
 }
 
 ScoreSummary cScore::PlayerSummary(std::string_view Player) const {
     const auto id = list_.Players().Find(Player);
-    return id ? Sums().byPlayer[*id] : ScoreSummary{};
+    return id ? Sums().byPlayer[*id].summary : ScoreSummary{};
+}
+
+Streak cScore::PlayerStreak(std::string_view player) const {
+    const auto id = list_.Players().Find(player);
+    return id ? Sums().byPlayer[*id].streak : Streak{};
+}
+
+Streak cScore::PlayerStreak(std::string_view player, std::string_view game) const {
+    const auto id = list_.Players().Find(player);
+    const auto gameId = list_.Games().Find(game);
+    if (!id || !gameId) return {};
+    const auto& byGame = Sums().byPlayer[*id].byGame;
+    return *gameId < byGame.size() ? byGame[*gameId] : Streak{};
 }
 
 ScoreRecord cScore::GetGameScore(std::string_view Game, std::int32_t N) const {
-    const auto id = list_.Games().Find(Game);
-    if (!id) return {};
-    const auto& positions = Sums().byGame[*id].positions;
+    const auto positions = FirstOf(Game, static_cast<std::size_t>(std::max(N, 0)));
     const auto index = static_cast<std::size_t>(N - 1);
     return index < positions.size() ? list_.Record(positions[index]) : ScoreRecord{};
+}
+
+std::vector<std::uint32_t> cScore::FirstOf(std::string_view game, std::size_t most) const {
+    std::vector<std::uint32_t> positions;
+    const auto id = list_.Games().Find(game);
+    if (!id) return positions;
+    most = std::min(most, static_cast<std::size_t>(Sums().byGame[*id].Played));
+    for (std::uint32_t position = 0; positions.size() < most; ++position) {
+        if (list_.At(position).Game == *id) positions.push_back(position);
+    }
+    return positions;
 }
 
 ScoreSummary cScore::SesSummary() const {

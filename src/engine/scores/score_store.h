@@ -10,6 +10,7 @@
 #include "engine/desktop.h"
 #include "engine/scores/periods.h"
 #include "engine/scores/score_list.h"
+#include "engine/scores/score_load.h"
 #include "engine/scores/sums.h"
 #include "engine/settings/data.h"
 
@@ -41,6 +42,10 @@ public:
     void OpenScore(const std::string& Player);
     /// Opens all listed players' games afresh, player after player in slot order.
     void OpenAllScore();
+    /// The files that `OpenAllScore` reads.
+    std::vector<ScoreFile> Files() const;
+    /// Opens what was loaded elsewhere.
+    void Take(LoadedScores loaded);
     void CloseScore();
     /// The files of the open list that can't be read, or not to their end.
     const std::vector<std::filesystem::path>& Unread() const { return unread_; }
@@ -51,12 +56,17 @@ public:
     }
     /// The `N`-th record of a game, from 1; an empty record when there are fewer.
     ScoreRecord GetGameScore(std::string_view Game, std::int32_t N) const;
+    /// The positions of a game's first records in the open list, from 0, `most` at most.
+    std::vector<std::uint32_t> FirstOf(std::string_view game, std::size_t most) const;
     const ScoreList& List() const { return list_; }
 
     /// Games and players are compared exactly; what has no games has zeros.
     ScoreSummary AllSummary() const { return Sums().all; }
     ScoreSummary GameSummary(std::string_view Game) const;
     ScoreSummary PlayerSummary(std::string_view Player) const;
+    /// The wins in a row of a player, and in one game, in the order of the file.
+    Streak PlayerStreak(std::string_view player) const;
+    Streak PlayerStreak(std::string_view player, std::string_view game) const;
     /// The games of the calendar day, month or year that holds `Date`.
     varnello::PeriodSummary PeriodSummary(const DateTime& Date, Interval interval) const {
         return PeriodSummaries({Date}, interval).front();
@@ -75,6 +85,10 @@ public:
     void FinSort(bool ByTime, bool ByMoves);
     /// A copy of a place of the ranking, 1 to 20; places not taken hold an empty record.
     ScoreRecord GetTopScore(std::int16_t Index) const;
+    /// Where that record stands in the open list, from 0. The place is taken.
+    std::uint32_t TopPosition(std::int16_t Index) const {
+        return topList_.at(static_cast<std::size_t>(Index)) - 1;
+    }
 
     std::int16_t SesTop() const { return static_cast<std::int16_t>(sesList_.size()); }
     /// A game of this run, 1 to `SesTop`.
