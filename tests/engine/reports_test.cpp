@@ -105,33 +105,6 @@ TEST_F(Reports, PeriodsFollowTheCalendar) {
     EXPECT_EQ(scores(0).back().first, "Mar 31");
 }
 
-TEST_F(Reports, LaterOfEqualScoresRanksHigherAndTwentyHaveRoom) {
-    std::vector<ScoreRecord> games;
-    for (int i = 0; i < 25; ++i) games.push_back(Game(10 + i % 3, i + 1));
-    games.push_back(Game(0));
-    games.push_back(Game(-5));
-    games.push_back(Game(99, 1, 1, 0));
-    Write(games);
-    engine.score().Sort("", "", 1);
-    EXPECT_EQ(Ranked(&ScoreRecord::Moves),
-              (std::vector<int>{24, 21, 18, 15, 12, 9, 6,  3,  23, 20,
-                                17, 14, 11, 8,  5,  2, 25, 22, 19, 16}));
-    engine.score().Sort("", "", 0);
-    EXPECT_EQ(Ranked(&ScoreRecord::Score).front(), 99) << "lost games rank as well";
-    engine.score().Sort("Avenue", "", 0);
-    EXPECT_TRUE(Ranked(&ScoreRecord::Score).empty());
-}
-
-TEST_F(Reports, FinishedGamesRankByWhatIsAskedFor) {
-    Write({Game(5, 30, 10), Game(9, 20, 40), Game(7, 10, 20)});
-    const auto best = [&](FinishedBy by) {
-        return Line(FinishedRows(engine.score(), by, engine.dates()).Rows, 0);
-    };
-    EXPECT_EQ(best(FinishedBy::Score), "1|Player1|Freecell|9|0:00:40|20|1/31/2026|7|");
-    EXPECT_EQ(best(FinishedBy::Moves), "1|Player1|Freecell|7|0:00:20|10|1/31/2026|7|");
-    EXPECT_EQ(best(FinishedBy::Time), "1|Player1|Freecell|5|0:00:10|30|1/31/2026|7|");
-}
-
 using Field = std::int32_t ScoreRecord::*;
 
 /// The ranking of won games by the plainest means: place by place, entry by entry.

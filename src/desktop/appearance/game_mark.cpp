@@ -31,16 +31,16 @@ struct Plan {
 Plan PlanOf(const std::string& game) {
     NullDesktop nothing;
     Engine engine(nothing.Interfaces({}));
-    engine.data.Set(keys::Autoplay, 0);
-    engine.StartGame(game, GameNumber::Number(kDealNumber));
+    engine.data().Set(keys::Autoplay, 0);
+    engine.life().StartGame(game, GameNumber::Number(kDealNumber));
     Plan plan;
     const auto add = [&](std::vector<QRect>& to, const auto& thing) {
         if (!thing.Visible) return;
         to.emplace_back(QPointF(thing.Left, thing.Top).toPoint(), kCard);
         plan.all |= to.back();
     };
-    for (const KesCard& card : engine.table.PicCards) add(plan.cards, card);
-    ForEachSlot(engine.table,
+    for (const KesCard& card : engine.table().PicCards) add(plan.cards, card);
+    ForEachSlot(engine.table(),
                 [&](const char*, int, const KesEmpty& slot) { add(plan.slots, slot); });
     return plan;
 }
