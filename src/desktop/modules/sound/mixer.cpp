@@ -17,7 +17,8 @@ void Mixer::Start(const Wave& wave) {
     for (std::size_t i = 0; i < tail.size(); ++i) {
         const float cut = i < rest_.size() ? float(rest_[i]) : 0;
         const float fading = i < tail_.size() ? tail_[tail_.size() - 1 - i] : 0;
-        const float left = 1 - float(i / channels) / float(frames);
+        const std::size_t frame = i / channels;
+        const float left = 1 - float(frame) / float(frames);
         tail[tail.size() - 1 - i] = (cut + fading) * left;
     }
     tail_ = std::move(tail);

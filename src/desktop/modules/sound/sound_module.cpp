@@ -14,9 +14,9 @@
 namespace varnello {
 namespace {
 
-constexpr int kBufferTime = 60;  // milliseconds that are handed to the device ahead
-constexpr int kFeedTime = 8;     // milliseconds between two looks at what it takes
-constexpr int kLinger = 1000;    // milliseconds that it stays open behind the last sound
+constexpr qint64 kBufferTime = 60;  // milliseconds that are handed to the device ahead
+constexpr int kFeedTime = 8;        // milliseconds between two looks at what it takes
+constexpr int kLinger = 1000;       // milliseconds that it stays open behind the last sound
 
 /// Lives in the sound thread and owns the device there, since opening one may take its time. The
 /// device is fed by a timer: of small buffers that a device may empty by itself some are never
