@@ -196,7 +196,7 @@ private Q_SLOTS:
                          fixture.At(slot.Left + 532, slot.Top + 720));
         }
         fixture.engine().commands().Undo();
-        HistoryDialog dialog(fixture.engine().trans(), &fixture.window);
+        HistoryDialog dialog(fixture.engine().trans(), fixture.settings, &fixture.window);
         const QTreeWidget* list = dialog.list();
         QCOMPARE(list->topLevelItemCount(), 3);
         QCOMPARE(list->topLevelItem(0)->text(1), "Tableau (Pile 1, Card 7)");

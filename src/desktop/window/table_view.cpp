@@ -1,5 +1,6 @@
 #include "desktop/window/table_view.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
