@@ -99,6 +99,73 @@ private Q_SLOTS:
         }
     }
 
+    void WhatIsHitIsWhatIsDrawn() {
+        // At each zoom the first pixel of a card's picture takes this card, not the one below it.
+        for (const int steps : {-1, 0, 2, 4}) {
+            WindowFixture fixture;
+            fixture.StartWithoutAutoplay("Freecell", 6);
+            TableView& table = fixture.window.table();
+            for (int i = 0; i < std::abs(steps); ++i) table.ZoomBy(steps > 0 ? 1 : -1);
+            for (int pile = 0; pile < 8; ++pile) {
+                const PicID id = fixture.Top(Cell::Home, pile);
+                const QRect shown = table.CardRect(fixture.Card(id).Left, fixture.Card(id).Top);
+                if (!table.rect().contains(shown)) continue;
+                const QPoint first(shown.center().x(), shown.top());
+                const double before = fixture.Card(id).Left;
+                fixture.Press(first);
+                fixture.Move(first + QPoint(20, 0));
+                QVERIFY2(fixture.Card(id).Left > before, qPrintable(QString::number(pile)));
+                QCOMPARE(table.cursor().shape(), Qt::ClosedHandCursor);
+                QTest::keyClick(&fixture.window, Qt::Key_Escape);
+                QCOMPARE(fixture.Card(id).Left, before);
+                fixture.Release(first + QPoint(20, 0));
+            }
+            QCOMPARE(fixture.engine().trans().GetTransID(), 0);
+        }
+    }
+
+    void ABareClickMovesNothing() {
+        // Wherever it lies: a reserve beside the pile, within the reach of a drop, takes no card.
+        for (const GameRow& row : kCatalogue) {
+            WindowFixture fixture;
+            fixture.StartWithoutAutoplay(row.Name.data(), 2);
+            for (int pile = 0; pile < fixture.engine().games().Piles(Cell::Home); ++pile) {
+                if (fixture.engine().array().GetTop(Cell::Home, pile) < 0) continue;
+                const PicID id = fixture.Top(Cell::Home, pile);
+                fixture.Press(fixture.CentreOf(id));
+                fixture.Release(fixture.CentreOf(id));
+            }
+            QVERIFY2(fixture.engine().trans().GetTransID() == 0, row.Name.data());
+        }
+    }
+
+    void TheTargetIsOutlinedOnlyWhileItWouldTakeTheCard() {
+        WindowFixture fixture;
+        fixture.StartWithoutAutoplay("Freecell");
+        TableView& table = fixture.window.table();
+        const KesEmpty slot = fixture.engine().table().PicRes[0];
+        const QPoint corner = fixture.At(slot.Left, slot.Top) - QPoint(2, -40);
+        const auto seen = [&] {
+            for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
+            const QPoint at = table.mapTo(&fixture.window, corner);
+            return fixture.window.screen()
+                ->grabWindow(fixture.window.winId(), at.x(), at.y(), 1, 1)
+                .toImage()
+                .pixel(0, 0);
+        };
+        const QRgb plain = seen();
+        const PicID id = fixture.Top(Cell::Home, 3);
+        fixture.Press(fixture.CentreOf(id));
+        fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
+        QVERIFY(seen() != plain);
+        fixture.Move(fixture.At(slot.Left + 700, 9000));
+        QCOMPARE(seen(), plain);
+        fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
+        fixture.Release(fixture.At(slot.Left + 700, slot.Top + 900));
+        QCOMPARE(fixture.Card(id).Loc, (Place{Cell::Res, 0, 0}));
+        QCOMPARE(seen(), plain);
+    }
+
     void EachCardOfACascadeIsHeardAsItLands() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Stripped Freecell", 6);
