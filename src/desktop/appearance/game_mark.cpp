@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
 #include <QRegion>
 #include <algorithm>
 #include <cmath>
@@ -73,8 +74,8 @@ public:
         painter->scale(1 / ratio, 1 / ratio);
         const QRect box(0, 0, static_cast<int>(rect.width() * ratio),
                         static_cast<int>(rect.height() * ratio));
-        painter->translate((box.size() - plan_.all.size() * scale).width() / 2,
-                           (box.size() - plan_.all.size() * scale).height() / 2);
+        const QSize free = box.size() - plan_.all.size() * scale;
+        painter->translate(QPoint(free.width() / 2, free.height() / 2));
         const auto fill = [&](const QRegion& region, float strength) {
             QColor colour = QApplication::palette().color(role);
             colour.setAlphaF(strength);

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>

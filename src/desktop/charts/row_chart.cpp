@@ -71,7 +71,7 @@ bool RowChart::HasValue(std::size_t row) const {
 }
 
 QString RowChart::RowName(std::size_t row) const {
-    const QString name = Table().rowNames.value(static_cast<qsizetype>(row));
+    QString name = Table().rowNames.value(static_cast<qsizetype>(row));
     if (!name.isEmpty()) return name;
     return HasValue(row) ? QString::number(Table().firstRow + static_cast<int>(row)) : QString();
 }

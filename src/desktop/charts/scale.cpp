@@ -21,7 +21,8 @@ double Step(std::size_t index, ScaleUnit unit) {
     if (unit == ScaleUnit::Seconds && index < kSeconds.size()) return kSeconds[index];
     const std::size_t place = unit == ScaleUnit::Seconds ? index - kSeconds.size() : index;
     constexpr std::array kFactors{1.0, 2.0, 5.0};
-    const double power = std::pow(10.0, static_cast<double>(place / kFactors.size()));
+    const std::size_t zeros = place / kFactors.size();
+    const double power = std::pow(10.0, static_cast<double>(zeros));
     const double round = kFactors[place % kFactors.size()] * power;
     return unit == ScaleUnit::Seconds ? 50 * kHour * round : round;
 }

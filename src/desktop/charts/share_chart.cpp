@@ -1,6 +1,7 @@
 #include "desktop/charts/share_chart.h"
 
 #include <QLineF>
+#include <QLocale>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>

@@ -94,7 +94,7 @@ QString TotalsChart::TipAt(const QPointF& at) const {
     const double place = std::floor((at.y() - top) / height);
     if (place < 0 || place >= count || at.x() < area.left() || at.x() > area.right()) return {};
     const auto series = static_cast<std::size_t>(place);
-    const QString value = NamedValue(Table().series[series], Value(series));
+    QString value = NamedValue(Table().series[series], Value(series));
     if (Table().rows.size() == 1) return value;
     return value + QStringLiteral("\nThe thin lines are your other wins.");
 }

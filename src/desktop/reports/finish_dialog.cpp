@@ -27,11 +27,11 @@ constexpr std::size_t kMostCompared = 200;  // earlier wins in the chart
 
 /// One of the twelve court cards, another one for another deal.
 QPixmap CourtCard(const FinishFigures& figures, double ratio) {
-    const auto draw = static_cast<std::size_t>(figures.Time + figures.Moves);
+    const int draw = figures.Time + figures.Moves;
     constexpr int kRanks = 13;
     constexpr int kJack = 11;
-    const int suit = static_cast<int>(draw % 4);
-    const int court = static_cast<int>(draw / 4 % 3);
+    const int suit = draw % 4;
+    const int court = draw / 4 % 3;
     const CardPictures pictures(ratio * kCardScale);
     const CardPictures::Part part = pictures.MainPic(suit * kRanks + kJack + court);
     QPixmap card = QPixmap::fromImage(part.sheet->copy(part.rect));

@@ -55,6 +55,8 @@ ChartArea* Below(Chart* upper, Chart* lower) {
 /// A quiet line below a list.
 QLabel* Line() {
     auto* line = new QLabel;
+    // However long a name is that was edited into the settings, the window stays as it is.
+    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->setTextFormat(Qt::PlainText);
     line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->setWordWrap(true);

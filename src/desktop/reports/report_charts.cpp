@@ -1,5 +1,6 @@
 #include "desktop/reports/report_charts.h"
 
+#include <QLayout>
 #include <algorithm>
 
 namespace varnello {
