@@ -51,8 +51,8 @@ Ranking TopRowsOfPlayer(cScore& score, const std::string& player, const DateForm
 Ranking FinishedRows(cScore& score, FinishedBy by, const DateForms& dates) {
     switch (by) {
         case FinishedBy::Score: score.Sort("", "", 1); break;
-        case FinishedBy::Moves: score.FinSort(false, true); break;
-        case FinishedBy::Time: score.FinSort(true, false); break;
+        case FinishedBy::Moves: score.FinSort(FinKey::Moves); break;
+        case FinishedBy::Time: score.FinSort(FinKey::Time); break;
     }
     return Places(score, HasDate, kFinished, dates);
 }

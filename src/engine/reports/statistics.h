@@ -17,19 +17,19 @@ namespace varnello {
 /// The lines of the general summary, each a label and its value.
 std::vector<std::string> GeneralLines(const ScoreSummary& summary);
 
-inline constexpr std::array<Column, 8> kGameColumns{{{"Game"},
-                                                     {"Played", ColumnKind::Value},
-                                                     {"Won", ColumnKind::Value},
-                                                     {"Lost", ColumnKind::Value},
-                                                     {"Time", ColumnKind::Value},
-                                                     {"Moves", ColumnKind::Value},
-                                                     {"Score", ColumnKind::Value},
-                                                     {"Perc", ColumnKind::Value}}};
-inline constexpr std::array<Column, 8> kPlayerColumns = [] {
-    auto columns = kGameColumns;
-    columns[0].Title = "Player";
-    return columns;
-}();
+/// The columns of sums over `what`.
+constexpr std::array<Column, 8> SumColumns(std::string_view what) {
+    return {{{what},
+             {"Played", ColumnKind::Value},
+             {"Won", ColumnKind::Value},
+             {"Lost", ColumnKind::Value},
+             {"Time", ColumnKind::Value},
+             {"Moves", ColumnKind::Value},
+             {"Score", ColumnKind::Value},
+             {"Perc", ColumnKind::Value}}};
+}
+inline constexpr auto kGameColumns = SumColumns("Game");
+inline constexpr auto kPlayerColumns = SumColumns("Player");
 
 /// A row for each game; the percentage has two decimals.
 std::vector<ReportRow> GameRows(const cScore& score, const cData& data);

@@ -33,12 +33,12 @@ void cScore::Sort(std::string_view Game, std::string_view Player, std::int16_t N
     }
 }
 
-void cScore::FinSort(bool ByTime, bool ByMoves) {
+void cScore::FinSort(FinKey by) {
     topList_ = {};
     const auto key = [&](std::uint32_t position) {
         if (position == 0) return 0;
         const CompactScore& record = list_.At(position - 1);
-        return ByTime ? record.Time : ByMoves ? record.Moves : 0;
+        return by == FinKey::Time ? record.Time : record.Moves;
     };
     for (std::uint32_t position = 1; position <= list_.Size(); ++position) {
         if (list_.At(position - 1).Status != 1) continue;

@@ -21,6 +21,9 @@ inline constexpr std::int16_t kTopPlaces = 20;
 /// How a game ended: the status of its record.
 enum class Outcome : std::int16_t { NotWon = 0, Won = 1 };
 
+/// What won games are ranked by.
+enum class FinKey { Time, Moves };
+
 /// The finished games: files on disk, one a player, and the list of this run. A report opens the
 /// files into one list in memory, asks, and closes it; nothing derived from them is stored.
 class cScore {
@@ -81,8 +84,8 @@ public:
     /// take no part; an empty text means all games or players; `NonZeroStatus` 1 leaves out games
     /// with status 0.
     void Sort(std::string_view Game, std::string_view Player, std::int16_t NonZeroStatus);
-    /// Ranks won games, smallest first, by time or by moves; exactly one of them is set.
-    void FinSort(bool ByTime, bool ByMoves);
+    /// Ranks won games, smallest first.
+    void FinSort(FinKey by);
     /// A copy of a place of the ranking, 1 to 20; places not taken hold an empty record.
     ScoreRecord GetTopScore(std::int16_t Index) const;
     /// Where that record stands in the open list, from 0. The place is taken.
