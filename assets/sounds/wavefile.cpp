@@ -54,9 +54,9 @@ Samples ReadWave(const std::filesystem::path& path) {
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     Samples samples;
     for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
-        const int low = static_cast<unsigned char>(bytes[i]);
-        const int high = static_cast<signed char>(bytes[i + 1]);
-        samples.push_back((high * 256 + low) / fullScale);
+        const unsigned low = static_cast<unsigned char>(bytes[i]);
+        const unsigned high = static_cast<unsigned char>(bytes[i + 1]);
+        samples.push_back(static_cast<std::int16_t>(high << 8U | low) / fullScale);
     }
     return samples;
 }
