@@ -2,6 +2,7 @@
 #include <QScrollBar>
 
 #include "desktop/help/pages.h"
+#include "desktop/platform/place_beside.h"
 #include "engine/definitions/catalogue.h"
 #include "engine/definitions/check_row.h"
 #include "fixture.h"

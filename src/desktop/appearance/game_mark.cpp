@@ -10,14 +10,12 @@
 #include <cmath>
 #include <vector>
 
-#include "engine/flow/engine.h"
-#include "engine/null_desktop.h"
+#include "desktop/appearance/sample_deal.h"
 
 namespace varnello {
 namespace {
 
-constexpr QSize kCard(1065, 1440);  // twips
-constexpr double kDealNumber = 1;
+constexpr QSize kCard(static_cast<int>(kCardWidth), static_cast<int>(kCardHeight));  // twips
 constexpr float kCards = 0.75F;  // of the text's colour
 constexpr float kSlots = 0.3F;
 constexpr double kSlim = 0.8;  // of a card's width, so that neighbours stay apart
@@ -30,19 +28,15 @@ struct Plan {
 };
 
 Plan PlanOf(const std::string& game) {
-    NullDesktop nothing;
-    Engine engine(nothing.Interfaces({}));
-    engine.data().Set(keys::Autoplay, 0);
-    engine.life().StartGame(game, GameNumber::Number(kDealNumber));
+    const Table table = SampleDeal(game);
     Plan plan;
     const auto add = [&](std::vector<QRect>& to, const auto& thing) {
         if (!thing.Visible) return;
         to.emplace_back(QPointF(thing.Left, thing.Top).toPoint(), kCard);
         plan.all |= to.back();
     };
-    for (const KesCard& card : engine.table().PicCards) add(plan.cards, card);
-    ForEachSlot(engine.table(),
-                [&](const char*, int, const KesEmpty& slot) { add(plan.slots, slot); });
+    for (const KesCard& card : table.PicCards) add(plan.cards, card);
+    ForEachSlot(table, [&](const char*, int, const KesEmpty& slot) { add(plan.slots, slot); });
     return plan;
 }
 

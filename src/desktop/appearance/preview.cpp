@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
+#include "desktop/appearance/sample_deal.h"
 #include "desktop/appearance/table_painter.h"
-#include "engine/flow/engine.h"
-#include "engine/null_desktop.h"
+#include "engine/settings/data.h"
 
 namespace varnello {
 namespace {
-
-// One deal for all pictures.
-constexpr double kDealNumber = 1;
 
 // The part of the table's width that a preview shows at least, lest the cards of small games look
 // like those of another program.
@@ -46,19 +43,15 @@ QRect VisiblePart(QSize table, const QRect& cards, int margin) {
 }  // namespace
 
 QPixmap Previews::Of(const std::string& game, double ratio) {
-    NullDesktop nothing;
-    Engine engine(nothing.Interfaces({}));
-    engine.data().Set(keys::Autoplay, 0);
-    engine.life().StartGame(game, GameNumber::Number(kDealNumber));
-
+    const Table table = SampleDeal(game);
     if (!pictures_ || pictures_->Ratio() != ratio) pictures_.emplace(ratio);
     const CardPictures& pictures = *pictures_;
     QImage picture = BackgroundPicture(ratio, {.fade = false});
     QPainter painter(&picture);
-    PaintTable(painter, engine.table(), pictures, keys::DeckIndex.Default, picture.rect());
+    PaintTable(painter, table, pictures, keys::DeckIndex.Default, picture.rect());
     painter.end();
 
-    const QRect cards = Covered(engine.table(), pictures);
+    const QRect cards = Covered(table, pictures);
     const QImage small =
         picture.copy(VisiblePart(picture.size(), cards, pictures.CardSize().width() / 4))
             .scaled(kPreviewSize * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -8,7 +8,9 @@
 
 #include "desktop/appearance/icons.h"
 #include "desktop/help/pages.h"
+#include "desktop/platform/place_beside.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 #include "engine/settings/data.h"
 
 namespace varnello {
@@ -25,8 +27,7 @@ HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
       table_(table),
       browser_(new PageBrowser),
       find_(new QLineEdit),
-      found_(new QLabel),
-      place_(*this, store, "Help") {
+      found_(new QLabel) {
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
@@ -36,7 +37,13 @@ HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
         found_->clear();
         setWindowTitle(PageOf(page.path()).title + QStringLiteral(" - ") + ToQt(kProductName));
     });
-    resize(kSize);
+    auto* memory = new WindowMemory(this, store, "Help", kSize);
+    memory->Keep(
+        "place",
+        [this] { return WasMoved() ? QString::fromLatin1(saveGeometry().toBase64()) : QString(); },
+        [this](const QString& place) {
+            restoreGeometry(QByteArray::fromBase64(place.toLatin1()));
+        });
 }
 
 void HelpWindow::AddTools() {
@@ -89,7 +96,7 @@ void HelpWindow::ShowPage(const QString& name) {
 }
 
 void HelpWindow::showEvent(QShowEvent* event) {
-    if (!event->spontaneous() && !testAttribute(Qt::WA_Moved) && !place_.Restore()) OpenBeside();
+    if (!event->spontaneous() && !testAttribute(Qt::WA_Moved)) OpenBeside();
     QWidget::showEvent(event);
 }
 
@@ -99,7 +106,13 @@ void HelpWindow::OpenBeside() {
     table.moveTopLeft(table_.mapToGlobal(table.topLeft()));
     const QRect available = table_.screen()->availableGeometry();
     const QRect place = PlaceBeside(available, table, size() + QSize(0, kFrame));
-    setGeometry(place.adjusted(0, kFrame, 0, 0));
+    beside_ = place.adjusted(0, kFrame, 0, 0);
+    setGeometry(beside_);
+}
+
+bool HelpWindow::WasMoved() const {
+    // A window manager moves it by its frame.
+    return (pos() - beside_.topLeft()).manhattanLength() > 2 * kFrame || size() != beside_.size();
 }
 
 void HelpWindow::Find(From from) {

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "desktop/help/page_browser.h"
-#include "desktop/platform/window_place.h"
+#include "engine/desktop.h"
 
 namespace varnello {
 
@@ -32,6 +32,8 @@ protected:
 private:
     void AddTools();
     void OpenBeside();
+    /// Whether a person gave it the place and size that it has.
+    bool WasMoved() const;
     /// Looks for the text from where it was last found, `from` further on, back, or there as well.
     enum class From { Here, Next, Previous };
     void Find(From from);
@@ -40,7 +42,7 @@ private:
     PageBrowser* browser_;
     QLineEdit* find_;
     QLabel* found_;
-    WindowPlace place_;
+    QRect beside_;  ///< where it opened of itself
 };
 
 }  // namespace varnello

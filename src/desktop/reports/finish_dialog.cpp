@@ -28,7 +28,6 @@ constexpr std::size_t kMostCompared = 200;  // earlier wins in the chart
 /// One of the twelve court cards, another one for another deal.
 QPixmap CourtCard(const FinishFigures& figures, double ratio) {
     const int draw = figures.Time + figures.Moves;
-    constexpr int kRanks = 13;
     constexpr int kJack = 11;
     const int suit = draw % 4;
     const int court = draw / 4 % 3;

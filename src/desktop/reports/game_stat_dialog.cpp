@@ -58,7 +58,6 @@ QLabel* Line() {
     // However long a name is that was edited into the settings, the window stays as it is.
     line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->setTextFormat(Qt::PlainText);
-    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->setWordWrap(true);
     return line;
 }
@@ -66,6 +65,17 @@ QLabel* Line() {
 void Tell(QLabel& line, const QString& what, const Streak& streak) {
     line.setText(
         QStringLiteral("%1: %2 now, %3 at best").arg(what).arg(streak.Now).arg(streak.Best));
+}
+
+/// The charts show what a person chooses, by the combo or by the row of the same place in the list.
+void ChooseBy(ReportView& list, QComboBox& combo, const std::function<void()>& show) {
+    QObject::connect(&combo, &QComboBox::activated, &list, show);
+    QObject::connect(list.selectionModel(), &QItemSelectionModel::currentRowChanged, &combo,
+                     [&list, &combo, show] {
+                         if (list.CurrentRow() < 0) return;
+                         combo.setCurrentIndex(list.CurrentRow());
+                         show();
+                     });
 }
 
 QHBoxLayout* AtLeft(QWidget* combo) {
@@ -150,12 +160,7 @@ QWidget* GameStatDialog::MakeGames() {
     gamesView_->setIconSize(kGameMarkSize);
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
     NamePurpose(*imcGames_, QStringLiteral("Game shown in the charts"));
-    connect(imcGames_, &QComboBox::activated, this, &GameStatDialog::ShowGame);
-    connect(gamesView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-        if (gamesView_->CurrentRow() < 0) return;
-        imcGames_->setCurrentIndex(gamesView_->CurrentRow());
-        ShowGame();
-    });
+    ChooseBy(*gamesView_, *imcGames_, [this] { ShowGame(); });
     column->addWidget(gamesView_, 1);
     column->addWidget(gameStreak_);
     column->addLayout(AtLeft(imcGames_));
@@ -185,12 +190,7 @@ QWidget* GameStatDialog::MakePlayers() {
     lvPlayer_->SetIcons([](int) { return SmallIcon(QStringLiteral("player")); });
     FillPlayers(*imcPlayer_, engine_.data());
     NamePurpose(*imcPlayer_, QStringLiteral("Player shown in the charts"));
-    connect(imcPlayer_, &QComboBox::activated, this, &GameStatDialog::ShowPlayer);
-    connect(playersView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-        if (playersView_->CurrentRow() < 0) return;
-        imcPlayer_->setCurrentIndex(playersView_->CurrentRow());
-        ShowPlayer();
-    });
+    ChooseBy(*playersView_, *imcPlayer_, [this] { ShowPlayer(); });
     column->addWidget(playersView_, 1);
     column->addWidget(playerStreak_);
     column->addLayout(AtLeft(imcPlayer_));

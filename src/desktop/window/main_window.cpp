@@ -227,11 +227,12 @@ void MainWindow::BeforeStart() {
     if (select_) select_->close();
 }
 
-void MainWindow::Play(const GameChoice& choice) {
-    if (choice.Player && engine_->data().FindPlayer(*choice.Player) != 0)
-        engine_->data().CurPlayer(*choice.Player);
-    engine_->life().StartGame(choice.Game,
-                              choice.Number ? *choice.Number : engine_->choosing().RandomGNo());
+void MainWindow::Play(const std::optional<GameChoice>& choice) {
+    if (!choice) return;
+    if (choice->Player && engine_->data().FindPlayer(*choice->Player) != 0)
+        engine_->data().CurPlayer(*choice->Player);
+    engine_->life().StartGame(choice->Game,
+                              choice->Number ? *choice->Number : engine_->choosing().RandomGNo());
     Refresh();
 }
 
@@ -253,7 +254,7 @@ void MainWindow::RunChooser() {
     BookWin();
     Dialog dialog(*engine_, this);
     dialog.exec();
-    if (dialog.Choice()) Play(*dialog.Choice());
+    Play(dialog.Choice());
 }
 
 void MainWindow::ShowChoose() { RunChooser<NumberDialog>(); }
@@ -272,8 +273,9 @@ void MainWindow::ShowHistory() {
     HistoryDialog(engine_->trans(), engine_->data().Store(), this).exec();
 }
 
-template <typename Report>
-std::optional<GameChoice> MainWindow::DealFrom(Report& report) {
+template <typename Report, typename... Options>
+std::optional<GameChoice> MainWindow::DealFrom(Options... options) {
+    Report report(*engine_, options..., Front());
     std::optional<GameChoice> choice;
     connect(&report, &Report::DealAsked, &report, [&](const GameChoice& deal) {
         NumberDialog dialog(*engine_, &report);
@@ -293,34 +295,22 @@ void MainWindow::ShowGameStat() {
 
 void MainWindow::ShowSesStat() {
     BookWin();
-    std::optional<GameChoice> deal;
-    {
-        SessionDialog dialog(*engine_, this);
-        deal = DealFrom(dialog);
-    }
-    if (deal) Play(*deal);
+    Play(DealFrom<SessionDialog>());
 }
 
 void MainWindow::ShowHighScore() {
     BookWin();
-    if (const auto deal = DealOfHighScore(false)) Play(*deal);
+    Play(DealOfHighScore(false));
 }
 
 std::optional<GameChoice> MainWindow::DealOfHighScore(bool won) {
     if (!OpenScores(*engine_, Front())) return {};
-    HighScoreDialog dialog(*engine_, won, Front());
-    return DealFrom(dialog);
+    return DealFrom<HighScoreDialog>(won);
 }
 
 void MainWindow::ShowLogStat() {
     BookWin();
-    if (!OpenScores(*engine_, this)) return;
-    std::optional<GameChoice> deal;
-    {
-        LogDialog dialog(*engine_, this);
-        deal = DealFrom(dialog);
-    }
-    if (deal) Play(*deal);
+    if (OpenScores(*engine_, Front())) Play(DealFrom<LogDialog>());
 }
 
 void MainWindow::ShowHelp() {
@@ -328,10 +318,7 @@ void MainWindow::ShowHelp() {
 }
 
 void MainWindow::ShowRules(const std::string& game) {
-    if (!help_) {
-        help_ = new HelpWindow(engine_->data().Store(), *table_);
-        connect(this, &QObject::destroyed, help_, &QObject::deleteLater);
-    }
+    if (!help_) help_ = std::make_unique<HelpWindow>(engine_->data().Store(), *table_);
     help_->ShowPage(PageNameOf(engine_->data().GetGameID(game)));
 }
 
@@ -396,12 +383,13 @@ void MainWindow::ShowFinish() {
         dialog.exec();
         choice = dialog.Choice();
     }
-    if (deal) return Play(*deal);
+    if (deal) return Play(deal);
     switch (choice) {
         case FinishChoice::NewGame: engine_->commands().NewGame(); return Refresh();
         case FinishChoice::SelectGame: return OpenSelect(Qt::WindowModal);
         case FinishChoice::RestartGame:
-            return Play({.Game = engine_->data().CurGName(), .Number = engine_->data().CurGNo});
+            return Play(
+                GameChoice{.Game = engine_->data().CurGName(), .Number = engine_->data().CurGNo});
         case FinishChoice::Close: break;
     }
 }

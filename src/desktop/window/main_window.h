@@ -75,12 +75,12 @@ private:
         std::string text;
     };
 
-    /// Starts what a dialog has chosen.
-    void Play(const GameChoice& choice);
-    /// Runs a window with a list of deals, and what a person chose to play of them. The number
-    /// chooser asks once more over it.
-    template <typename Report>
-    std::optional<GameChoice> DealFrom(Report& report);
+    /// Starts what a dialog has chosen, if anything.
+    void Play(const std::optional<GameChoice>& choice);
+    /// Runs a window with a list of deals to its end; the result is what a person chose to play of
+    /// them. The number chooser asks once more over it.
+    template <typename Report, typename... Options>
+    std::optional<GameChoice> DealFrom(Options... options);
     /// `won`: marks the game that was just won.
     std::optional<GameChoice> DealOfHighScore(bool won);
     /// A game begins, whoever asked for it: what belongs to the last one goes.
@@ -136,7 +136,7 @@ private:
     std::unique_ptr<MainMenu> menu_;
     Toolbar* toolbar_ = nullptr;
     QPointer<SelectDialog> select_;
-    HelpWindow* help_ = nullptr;  ///< made on first use
+    std::unique_ptr<HelpWindow> help_;  ///< made on first use
     QTimer tmrMain_;
     QTimer tmrTime_;
     QTimer tmrForward_;

@@ -184,7 +184,7 @@ TableView::Shown TableView::Look(const KesCard& card) {
     if (!card.Visible) return {};
     const bool closed = card.FaceMode == FaceMode::Closed;
     return {RectOnTable(Pictures(), card.Left, card.Top),
-            closed ? 0 : card.Suit * 13 + card.Num + 1, card.Height};
+            closed ? 0 : card.Suit * kRanks + card.Num + 1, card.Height};
 }
 
 TableView::Shown TableView::Look(const KesEmpty& slot) {
