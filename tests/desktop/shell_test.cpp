@@ -112,10 +112,10 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().trans().GetTransID(), 0);
         QTRY_VERIFY(menu.mGame(GameItem::Redo)->isEnabled() &&
                     !menu.mGame(GameItem::Undo)->isEnabled());
-        QTRY_COMPARE(menu.Counters()->text(), "Score :0     Time :0:00:00     Moves :0");
+        QTRY_COMPARE(menu.Counters().text(), "Score :0  Time :0:00:00  Moves :0");
         menu.mFile(FileItem::Close)->trigger();
         QTRY_VERIFY(!menu.mFile(FileItem::Close)->isEnabled());
-        QTRY_COMPARE(menu.Counters()->text(), "");
+        QTRY_COMPARE(menu.Counters().text(), "");
     }
 
     void AReplayRunsByItselfAndStops() {

@@ -41,8 +41,7 @@ public:
 
 private:
     QAccessibleInterface* Counters() const {
-        return QAccessible::queryAccessibleInterface(
-            const_cast<QLabel*>(window_.menu().Counters()));  // the toolkit takes no const object
+        return QAccessible::queryAccessibleInterface(&window_.menu().Counters());
     }
 
     MainWindow& window_;
@@ -56,7 +55,7 @@ QAccessibleInterface* NodeOf(const QString&, QObject* object) {
     }
     auto* label = dynamic_cast<QLabel*>(object);
     auto* window = label ? dynamic_cast<MainWindow*>(label->window()) : nullptr;
-    if (window && window->menu().Counters() == label) return new CountersNode(*label);
+    if (window && &window->menu().Counters() == label) return new CountersNode(*label);
     return nullptr;
 }
 

@@ -9,7 +9,7 @@
 namespace varnello {
 
 MainMenu::MainMenu(QMenuBar& bar, Engine& engine, Shell& shell)
-    : bar_(bar), engine_(engine), shell_(shell) {
+    : bar_(bar), engine_(engine), shell_(shell), counters_(new CounterLabel(bar)) {
     BuildFile();
     BuildGame();
     BuildReplay();
@@ -17,7 +17,6 @@ MainMenu::MainMenu(QMenuBar& bar, Engine& engine, Shell& shell)
     BuildStatistics();
     BuildTools();
     BuildHelp();
-    BuildCounters();
     auto* open = new QShortcut(Qt::Key_F10, &bar_);
     QObject::connect(open, &QShortcut::activated, &bar_, [this] {
         shell_.Settle();
@@ -154,23 +153,6 @@ void MainMenu::BuildHelp() {
     menu->addSeparator();
     Add(menu, help_[HelpItem::About], QStringLiteral("About %1...").arg(ToQt(kProductName)), {},
         [this] { shell_.ShowAbout(); });
-}
-
-void MainMenu::BuildCounters() {
-    counters_ = new QLabel(&bar_);
-    counters_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    counters_->setContentsMargins(0, 0, 12, 0);
-    counters_->setMinimumWidth(counters_->fontMetrics().horizontalAdvance(
-        QStringLiteral("Score :-32768     Time :99:59:59     Moves :32767    ")));
-    bar_.setCornerWidget(counters_, Qt::TopRightCorner);
-}
-
-void MainMenu::ShowCounters(const CounterCaptions& captions) {
-    QStringList shown;
-    for (const std::string& caption : {captions.mScore, captions.mTime, captions.mMoves}) {
-        if (!caption.empty()) shown << ToQt(caption);
-    }
-    counters_->setText(shown.join(QStringLiteral("     ")));
 }
 
 void MainMenu::UpdateMenus() {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QAction>
-#include <QLabel>
 #include <QMenuBar>
 #include <array>
 
+#include "desktop/window/counter_label.h"
 #include "engine/flow/engine.h"
 
 namespace varnello {
@@ -53,7 +53,6 @@ public:
 
     /// Copies every mark and caption that the engine works out from its state.
     void UpdateMenus();
-    void ShowCounters(const CounterCaptions& captions);
 
     QAction* mFile(FileItem item) const { return file_[item]; }
     QAction* mGame(GameItem item) const { return game_[item]; }
@@ -64,7 +63,7 @@ public:
     QAction* mHelp(HelpItem item) const { return help_[item]; }
     /// `index` from 1, the newest.
     QAction* mRecent(int index) const { return recent_.at(static_cast<std::size_t>(index)); }
-    const QLabel* Counters() const { return counters_; }
+    CounterLabel& Counters() const { return *counters_; }
 
 private:
     void BuildFile();
@@ -74,7 +73,6 @@ private:
     void BuildStatistics();
     void BuildTools();
     void BuildHelp();
-    void BuildCounters();
     void UpdateRecent();
 
     template <typename Action>
@@ -97,7 +95,7 @@ private:
     MenuItems<ToolsItem> tools_;
     MenuItems<HelpItem> help_;
     std::array<QAction*, kMaxRecent + 1> recent_{};
-    QLabel* counters_ = nullptr;
+    CounterLabel* counters_;
 };
 
 }  // namespace varnello

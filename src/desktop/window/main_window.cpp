@@ -28,7 +28,8 @@ namespace {
 
 constexpr int kToolbarHeight = 25;        // pixels of the strip along the top
 constexpr QSize kRestoredSize(673, 437);  // client area of the restored window
-constexpr int kMenuPoll = 100;            // milliseconds
+constexpr QSize kLeastSize(400, 300);
+constexpr int kMenuPoll = 100;  // milliseconds
 constexpr int kCounterPoll = 500;
 constexpr int kReplayStep = 500;
 constexpr int kTryAgain = 50;
@@ -55,8 +56,13 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     menu_->UpdateMenus();
     toolbar_->UpdateToolbar();
     setWindowTitle(ToQt(kProductName));
+    setMinimumSize(kLeastSize);
     resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
-    move(screen()->availableGeometry().center() - rect().center());
+    // `move` places the frame, whose title counts; nobody knows its height before it is shown.
+    const QSize framed = size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    move(QRect({}, framed)
+             .translated(screen()->availableGeometry().center() - QRect({}, framed).center())
+             .topLeft());
     StartTimers();
     AddZoomKeys();
     QApplication::instance()->installEventFilter(this);
@@ -83,7 +89,7 @@ void MainWindow::StartTimers() {
     tmrBackward_.setInterval(kReplayStep);
     connect(&tmrMain_, &QTimer::timeout, this, &MainWindow::OnMainTimer);
     connect(&tmrTime_, &QTimer::timeout, this,
-            [this] { menu_->ShowCounters(engine_->counters().TimeTick()); });
+            [this] { menu_->Counters().ShowCounters(engine_->counters().TimeTick()); });
     connect(&tmrForward_, &QTimer::timeout, this, [this] { ReplayTick(&Replay::ForwardTick); });
     connect(&tmrBackward_, &QTimer::timeout, this, [this] { ReplayTick(&Replay::BackwardTick); });
     breath_.setSingleShot(true);
