@@ -7,6 +7,7 @@
 
 #include "desktop/accessible/windows.h"
 #include "desktop/appearance/icons.h"
+#include "desktop/appearance/plain_buttons.h"
 #include "desktop/platform/session_end.h"
 #include "desktop/platform/settings_store.h"
 #include "desktop/platform/sounds.h"
@@ -76,6 +77,7 @@ int main(int argc, char** argv) {
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    QApplication::setStyle(new varnello::PlainButtons);
     if (RefuseUnknown(argc, argv)) return 2;
     qInstallMessageHandler(AfterScreen);
     QApplication::setApplicationName(ToQt(kProductName));

@@ -49,6 +49,18 @@ private Q_SLOTS:
             dialog.number()->selectAll();  // offscreen the box takes the selection away
             dialog.number()->paste();
             QCOMPARE(dialog.number()->text(), "1e3");
+            // A row of the log, as it is copied there.
+            auto* games = dialog.findChild<QComboBox*>();
+            QGuiApplication::clipboard()->setText(
+                "7\tAvenue\tOasis\t9\t0:01:00\t5\tWon\t1/2/26\t4711\n8\tx");
+            dialog.number()->selectAll();
+            dialog.number()->paste();
+            QCOMPARE(dialog.number()->text() + games->currentText(), "4711Oasis");
+            QTest::keyClicks(games, "Double Spi");
+            QCOMPARE(games->currentText(), "Double Spidercells");
+            QVERIFY(!games->view()->isVisible());
+            games->setCurrentIndex(0);
+            dialog.number()->setText("1e3");
             QTest::keyClick(&dialog, Qt::Key_Return);
         });
         fixture.window.menu().mFile(FileItem::Number)->trigger();
@@ -56,6 +68,15 @@ private Q_SLOTS:
         QVERIFY(fixture.engine().data().GameRunning);
         QCOMPARE(fixture.engine().data().CurGNo.Shown(), "1e3");
         QCOMPARE(fixture.engine().data().CurGName(), "Avenue");
+    }
+
+    void TheProposedNumberIsOneThatMayBeChosen() {
+        WindowFixture fixture;
+        fixture.engine().data().Set(keys::RangeIndex, 1);
+        for (int i = 0; i < 300; ++i) {
+            const NumberDialog dialog(fixture.engine(), nullptr);
+            QVERIFY(fixture.engine().choosing().IsChoosable(dialog.number()->text().toStdString()));
+        }
     }
 
     void TheSelectorFollowsThePlayers() {
@@ -70,6 +91,15 @@ private Q_SLOTS:
         QVERIFY(players.EnterPlayer("Bea", "Bo"));
         QTRY_COMPARE(select.players()->itemText(1), "Bo");
         QCOMPARE(select.players()->currentText(), ToQt(odd));
+        // Keys stay among the games.
+        for (const auto& [key, game] : {std::pair{Qt::Key_Home, "Avenue"},
+                                        {Qt::Key_Up, "Avenue"},
+                                        {Qt::Key_Down, "Baker's Game"},
+                                        {Qt::Key_Left, "Baker's Game"},
+                                        {Qt::Key_End, "Zodiac"}}) {
+            QTest::keyClick(select.tree(), key);
+            QCOMPARE(select.tree()->SelectedGame(), game);
+        }
         // Tab reaches every control, the rules after the way out.
         QStringList reached;
         for (int i = 0; i < 6; ++i) {

@@ -3,12 +3,15 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "desktop/accessible/label.h"
+#include "desktop/appearance/game_mark.h"
 #include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 
 namespace varnello {
 namespace {
@@ -55,7 +58,7 @@ PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
     all->addWidget(imcGames_);
     all->addWidget(lvFav_);
     all->addWidget(buttons);
-    resize(kPlaySize);
+    new WindowMemory(this, engine_.data().Store(), "PlayFavorites", kPlaySize);
 
     cmdPlay_->setDefault(true);
     connect(imcGames_, &QComboBox::currentIndexChanged, this, &PlayFavoriteDialog::UpdateLVFav);
@@ -89,15 +92,19 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
     engine_.favorites().OpenFav();
     const cData& data = engine_.data();
     lvGames_->setAccessibleName(QStringLiteral("Game"));
+    lvGames_->setIconSize(kGameMarkSize);
     for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
-        auto* item = new QListWidgetItem(SmallIcon(QStringLiteral("game")), ToQt(data.GetGName(id)),
-                                         lvGames_);
+        auto* item =
+            new QListWidgetItem(GameMark(data.GetGName(id)), ToQt(data.GetGName(id)), lvGames_);
         if (id == 1 || item->text() == ToQt(data.CurGName())) lvGames_->setCurrentItem(item);
     }
 
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(cmdClear_, QDialogButtonBox::ResetRole);
     auto* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    // As wide as the longest name, beside a scroll bar.
+    lvGames_->setMinimumWidth(lvGames_->sizeHintForColumn(0) + 2 * lvGames_->frameWidth() +
+                              lvGames_->verticalScrollBar()->sizeHint().width());
     auto* left = new QVBoxLayout;
     left->addWidget(new QLabel(QStringLiteral("Game")));
     left->addWidget(lvGames_);
@@ -110,7 +117,7 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
     auto* all = new QVBoxLayout(this);
     all->addLayout(lists);
     all->addWidget(buttons);
-    resize(kOrganizeSize);
+    new WindowMemory(this, engine_.data().Store(), "OrganizeFavorites", kOrganizeSize);
 
     close->setDefault(true);
     cmdClear_->setEnabled(engine_.favorites().FavTop() >= 1);

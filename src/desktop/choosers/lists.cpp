@@ -24,6 +24,7 @@ void FillGames(QComboBox& combo, const cData& data, const std::string& selected)
         combo.addItem(GameMark(name), ToQt(name));
     }
     combo.setIconSize(kGameMarkSize);
+    combo.setMinimumWidth(combo.fontMetrics().averageCharWidth() * kNameShown);
     Select(combo, selected);
 }
 
@@ -38,6 +39,7 @@ void FillPlayers(QComboBox& combo, const cData& data) {
     // However long a name is that was edited into the settings, the window stays as it is.
     combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo.setMinimumContentsLength(kNameShown);
+    combo.setMinimumWidth(combo.fontMetrics().averageCharWidth() * kNameShown);
     for (const QString& name : PlayerNames(data)) {
         combo.addItem(SmallIcon(QStringLiteral("player")), name);
     }

@@ -7,14 +7,17 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/choosers/deal_validator.h"
 #include "desktop/choosers/lists.h"
-#include "desktop/choosers/one_line_validator.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_size.h"
 
 namespace varnello {
 namespace {
 
 constexpr std::size_t kLongestNumber = 32767;  // characters
+constexpr int kMostDraws = 1000;               // a range out of the settings may have no number
+constexpr QSize kSize(320, 190);
 
 }  // namespace
 
@@ -27,8 +30,10 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
     setWindowTitle(QStringLiteral("Select a Game Number"));
     FillGames(*games_, engine_.data(), engine_.data().CurGName());
     FillPlayers(*players_, engine_.data());
-    number_->setText(ToQt(engine_.choosing().RandomGNo().Shown()));
-    number_->setValidator(new OneLineValidator(number_, kLongestNumber));
+    number_->setText(ToQt(Proposal()));
+    number_->setValidator(new DealValidator(
+        number_, kLongestNumber, engine_.data(),
+        [this](const QString& game) { games_->setCurrentIndex(games_->findText(game)); }));
 
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Game"), games_);
@@ -50,13 +55,23 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
     all->addSpacing(8);
     all->addStretch();
     all->addWidget(buttons);
-    setMinimumWidth(320);
+    resize(SizeFor(*this, kSize));
 
     select->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &NumberDialog::Select);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     number_->selectAll();
     number_->setFocus();
+}
+
+std::string NumberDialog::Proposal() {
+    std::string number;
+    // The highest numbers of a range can be drawn and not be chosen.
+    for (int draw = 0; draw < kMostDraws; ++draw) {
+        number = engine_.choosing().RandomGNo().Shown();
+        if (engine_.choosing().IsChoosable(number)) break;
+    }
+    return number;
 }
 
 void NumberDialog::Propose(const GameChoice& deal) {

@@ -24,6 +24,8 @@ public:
     QLineEdit* number() const { return number_; }
 
 private:
+    /// A number that may be chosen.
+    std::string Proposal();
     void Select();
 
     Engine& engine_;

@@ -10,6 +10,7 @@
 #include "desktop/choosers/one_line_validator.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 
 namespace varnello {
 namespace {
@@ -40,7 +41,7 @@ PlayersDialog::PlayersDialog(Engine& engine, QWidget* parent)
     auto* all = new QHBoxLayout(this);
     all->addWidget(lvPlayer_);
     all->addLayout(column);
-    resize(kPlayersSize);
+    new WindowMemory(this, engine_.data().Store(), "Players", kPlayersSize);
 
     connect(lvPlayer_, &QListWidget::currentRowChanged, this, &PlayersDialog::UpdateDelete);
     connect(lvPlayer_, &QListWidget::itemDoubleClicked, this, &PlayersDialog::Select);

@@ -6,14 +6,14 @@
 #include <QVBoxLayout>
 
 #include "desktop/accessible/label.h"
-#include "desktop/appearance/icons.h"
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_memory.h"
 
 namespace varnello {
 namespace {
 
-constexpr int kTreeWidth = 230;
+constexpr QSize kSize(600, 344);
 constexpr int kPlayersPoll = 500;  // milliseconds
 
 }  // namespace
@@ -21,7 +21,7 @@ constexpr int kPlayersPoll = 500;  // milliseconds
 SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     : QDialog(parent),
       engine_(engine),
-      tree_(new QTreeWidget),
+      tree_(new GameTree(engine.data())),
       players_(new QComboBox),
       name_(new QLabel),
       preview_(new QLabel),
@@ -30,9 +30,6 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(ToQt(kProductName));
 
-    tree_->setHeaderHidden(true);
-    tree_->setMinimumWidth(kTreeWidth);
-    tree_->setAccessibleName(QStringLiteral("Games"));
     NamePurpose(*players_, QStringLiteral("Player"));
     QFont large = name_->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
@@ -63,11 +60,12 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     all->addLayout(right);
 
     FillPlayers(*players_, engine_.data());
-    FillTree();
+    new WindowMemory(this, engine_.data().Store(), "SelectGame", kSize);
     connect(tree_, &QTreeWidget::currentItemChanged, this, &SelectDialog::ShowGame);
     connect(tree_, &QTreeWidget::itemDoubleClicked, this, &SelectDialog::Play);
     connect(play_, &QPushButton::clicked, this, &SelectDialog::Play);
-    connect(rules_, &QPushButton::clicked, this, [this] { Q_EMIT RulesAsked(SelectedGame()); });
+    connect(rules_, &QPushButton::clicked, this,
+            [this] { Q_EMIT RulesAsked(tree_->SelectedGame()); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(&Timer1_, &QTimer::timeout, this, &SelectDialog::FollowPlayers);
     Timer1_.start(kPlayersPoll);
@@ -87,29 +85,8 @@ void SelectDialog::FollowPlayers() {
     if (listed.contains(selected)) players_->setCurrentText(selected);
 }
 
-void SelectDialog::FillTree() {
-    const cData& data = engine_.data();
-    auto* root = new QTreeWidgetItem(tree_, {QStringLiteral("Games")});
-    root->setIcon(0, SmallIcon(QStringLiteral("games")));
-    const QString last = ToQt(data.LastGName());
-    QTreeWidgetItem* selected = nullptr;
-    for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
-        auto* item = new QTreeWidgetItem(root, {ToQt(data.GetGName(id))});
-        item->setIcon(0, SmallIcon(QStringLiteral("game")));
-        if (id == 1 || item->text(0) == last) selected = item;
-    }
-    root->setExpanded(true);
-    tree_->setCurrentItem(selected);
-    tree_->scrollToItem(selected, QAbstractItemView::PositionAtCenter);
-}
-
-QString SelectDialog::SelectedGame() const {
-    const QTreeWidgetItem* item = tree_->currentItem();
-    return item && item->parent() ? item->text(0) : QString();
-}
-
 void SelectDialog::ShowGame() {
-    const QString game = SelectedGame();
+    const QString game = tree_->SelectedGame();
     play_->setEnabled(!game.isEmpty());
     rules_->setEnabled(!game.isEmpty());
     if (game.isEmpty()) return;  // the root keeps the last game's name and picture
@@ -118,7 +95,7 @@ void SelectDialog::ShowGame() {
 }
 
 void SelectDialog::Play() {
-    const QString game = SelectedGame();
+    const QString game = tree_->SelectedGame();
     if (game.isEmpty()) return;
     FollowPlayers();
     const GameChoice choice{.Game = game.toStdString(),

@@ -5,10 +5,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
-#include <QTreeWidget>
 
 #include "desktop/appearance/preview.h"
 #include "desktop/choosers/game_choice.h"
+#include "desktop/choosers/game_tree.h"
 #include "engine/flow/engine.h"
 
 namespace varnello {
@@ -21,7 +21,7 @@ class SelectDialog : public QDialog {
 public:
     SelectDialog(Engine& engine, QWidget* parent);
 
-    QTreeWidget* tree() const { return tree_; }
+    GameTree* tree() const { return tree_; }
     QComboBox* players() const { return players_; }
     QPushButton* play() const { return play_; }
     QPushButton* rules() const { return rules_; }
@@ -33,16 +33,13 @@ Q_SIGNALS:
     void Chosen(const GameChoice& choice);
 
 private:
-    void FillTree();
     /// Shows the players as they are listed now; another window or another copy may change them.
     void FollowPlayers();
     void ShowGame();
     void Play();
-    /// The selected game's name; empty while the root is selected.
-    QString SelectedGame() const;
 
     Engine& engine_;
-    QTreeWidget* tree_;
+    GameTree* tree_;
     QComboBox* players_;
     QLabel* name_;
     QLabel* preview_;

@@ -1,21 +1,14 @@
 #include "desktop/platform/window_memory.h"
 
 #include <QEvent>
-#include <QScreen>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_size.h"
 
 namespace varnello {
 namespace {
 
 constexpr const char* kSection = "Windows";
-constexpr QSize kFrame(16, 48);  // pixels that a window's frame may take
-
-QSize BoundedByScreen(const QWidget& window, const QSize& size) {
-    const QWidget* parent = window.parentWidget();
-    const QScreen* screen = (parent ? parent : &window)->screen();
-    return size.boundedTo(screen->availableSize() - kFrame);
-}
 
 QString SizeText(const QSize& size) {
     return QStringLiteral("%1 %2").arg(size.width()).arg(size.height());
@@ -31,14 +24,14 @@ QSize SizeOf(const QString& text) {
 WindowMemory::WindowMemory(QWidget* window, SettingsStore& store, const char* name,
                            const QSize& first)
     : QObject(window), window_(window), store_(store), name_(name) {
-    window->resize(BoundedByScreen(*window, first));
+    window->resize(SizeFor(*window, first));
     Keep(
         "size",
         // One that nobody has given the window stays open to change with font and screen.
         [this, first] {
             const QSize now =
                 window_->isMaximized() ? window_->normalGeometry().size() : window_->size();
-            return now == BoundedByScreen(*window_, first) ? QString() : SizeText(now);
+            return now == SizeFor(*window_, first) ? QString() : SizeText(now);
         },
         [window](const QString& text) { window->resize(BoundedByScreen(*window, SizeOf(text))); });
     window->installEventFilter(this);

@@ -13,8 +13,8 @@ namespace varnello {
 /// when something has changed.
 class WindowMemory : public QObject {
 public:
-    /// Sizes the window; `first` is how large it opens when it was never seen. `name` is its key in
-    /// the settings. Lives as long as the window.
+    /// Sizes the window; `first` is how large it opens when it was never seen, with a font of 9
+    /// points. `name` is its key in the settings. Lives as long as the window.
     WindowMemory(QWidget* window, SettingsStore& store, const char* name, const QSize& first);
 
     /// A part of the window that is kept under a word of its own: how to tell its state, without

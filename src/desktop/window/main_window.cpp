@@ -15,6 +15,7 @@
 #include "desktop/help/pages.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/type_ahead.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/reports/game_stat_dialog.h"
 #include "desktop/reports/high_score_dialog.h"
@@ -65,6 +66,7 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
              .topLeft());
     StartTimers();
     AddZoomKeys();
+    new TypeAhead(this);
     QApplication::instance()->installEventFilter(this);
 }
 
