@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kFrame = 2;          // pixels
 constexpr int kMargin = 8;         // pixels within the frame
-constexpr int kLeastLines = 8;     // of text that fit into the smallest chart
+constexpr int kLeastLines = 7;     // of text that fit into the smallest chart
 constexpr int kLeastLetters = 24;  // side by side
 constexpr double kLimit = 1e15;    // up to which all whole numbers are exact
 

@@ -8,8 +8,10 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance/colours.h"
+#include "desktop/customize/scrolled_page.h"
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_size.h"
 #include "desktop/reports/scores_access.h"
 
 namespace varnello {
@@ -55,17 +57,19 @@ CustomizeDialog::CustomizeDialog(Engine& engine, QWidget* parent)
       picDeckBack_(new LookPreview(QStringLiteral("Deck preview"))),
       lvSound_(new QListWidget) {
     setWindowTitle(QStringLiteral("Customize"));
-    SSTab1_->addTab(MakeGeneral(), QStringLiteral("General"));
+    SSTab1_->addTab(new ScrolledPage(MakeGeneral()), QStringLiteral("General"));
     SSTab1_->addTab(MakeBackground(), QStringLiteral("Background"));
     SSTab1_->addTab(MakeDecks(), QStringLiteral("Decks"));
-    SSTab1_->addTab(MakeAnimationAndSounds(), QStringLiteral("Animation && Sounds"));
+    SSTab1_->addTab(new ScrolledPage(MakeAnimationAndSounds()),
+                    QStringLiteral("Animation && Sounds"));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(buttons);
-    all->setSizeConstraint(QLayout::SetFixedSize);
-    SSTab1_->setMinimumSize(kClient);
+    SSTab1_->setUsesScrollButtons(false);  // all four stand there at once
+    SSTab1_->setMinimumSize(BoundedByScreen(*this, kClient));
+    setFixedSize(BoundedByScreen(*this, sizeHint()));
     connect(buttons, &QDialogButtonBox::accepted, this, &CustomizeDialog::Ok);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

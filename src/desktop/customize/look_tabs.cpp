@@ -6,6 +6,7 @@
 #include "desktop/appearance/looks.h"
 #include "desktop/customize/customize_dialog.h"
 #include "desktop/customize/look_icons.h"
+#include "desktop/platform/tree_width.h"
 
 // The tabs "Background" and "Decks": trees whose items carry the number of a look.
 namespace varnello {
@@ -96,6 +97,7 @@ void CustomizeDialog::FillBackgrounds() {
         AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
     }
     AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
+    tvBGround_->setMinimumWidth(WidthOfTree(*tvBGround_));
     DrawIconsOfOpenGroups(tvBGround_, [this](int id) { return IconOfBackground(id); });
 }
 

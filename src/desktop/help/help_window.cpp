@@ -18,6 +18,7 @@ namespace {
 
 constexpr QSize kSize(720, 680);
 constexpr int kFrame = 32;       // what a window manager may add at the top
+constexpr int kSide = 4;         // and at the other sides
 constexpr int kFindWidth = 220;  // at most
 
 }  // namespace
@@ -105,8 +106,8 @@ void HelpWindow::OpenBeside() {
     table.moveLeft((table_.width() - table.width()) / 2);
     table.moveTopLeft(table_.mapToGlobal(table.topLeft()));
     const QRect available = table_.screen()->availableGeometry();
-    const QRect place = PlaceBeside(available, table, size() + QSize(0, kFrame));
-    beside_ = place.adjusted(0, kFrame, 0, 0);
+    const QRect place = PlaceBeside(available, table, size() + QSize(2 * kSide, kFrame + kSide));
+    beside_ = place.adjusted(kSide, kFrame, -kSide, -kSide);
     setGeometry(beside_);
 }
 

@@ -26,7 +26,6 @@ namespace {
 constexpr QSize kSize(900, 680);
 constexpr int kGeneralWidth = 270;  // pixels
 constexpr int kListRoom = 36;       // pixels for a list's frame, margins and scroll bar
-constexpr int kDateWidth = 300;
 
 const QString kNothing =
     QStringLiteral("Nothing played yet. Finish your first game, and its story begins here.");
@@ -175,12 +174,11 @@ QWidget* GameStatDialog::MakeDates() {
     NamePurpose(*imcDate_, QStringLiteral("Time shown"));
     connect(imcDate_, &QComboBox::activated, this, &GameStatDialog::ShowPeriods);
     auto* list = new ReportView(lvDate_, QStringLiteral("Days, months or years"));
-    list->setFixedWidth(kDateWidth);
     auto* left = new QVBoxLayout;
     left->addWidget(imcDate_);
     left->addWidget(list);
-    row->addLayout(left);
-    row->addWidget(dateCharts_, 1);
+    row->addLayout(left, 1);
+    row->addWidget(dateCharts_, 2);
     return page;
 }
 

@@ -17,9 +17,8 @@ namespace varnello {
 namespace {
 
 constexpr QSize kSize(880, 640);
-constexpr int kLabelShown = 30;    // characters
-constexpr int kTick = 500;         // milliseconds
-constexpr int kDetailWidth = 330;  // pixels
+constexpr int kLabelShown = 14;  // characters at least
+constexpr int kTick = 500;       // milliseconds
 
 /// Dark red for the running game; lighter where the list is dark.
 QColor RunningColour(const QPalette& palette) {
@@ -41,6 +40,7 @@ QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * kLabelShown);
+    label->setWordWrap(true);
     rows->addWidget(label);
     return label;
 }
@@ -136,15 +136,14 @@ QWidget* SessionDialog::MakeSummary() {
 QWidget* SessionDialog::MakeDetails() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    detailView_->setFixedWidth(kDetailWidth);
     auto* cmdRefresh = new QPushButton(QStringLiteral("Refresh Chart"));
     cmdRefresh->setAutoDefault(false);
     connect(cmdRefresh, &QPushButton::clicked, this, &SessionDialog::RefreshChart);
     auto* right = new QVBoxLayout;
     right->addWidget(chChart_, 1);
     right->addWidget(cmdRefresh, 0, Qt::AlignRight);
-    row->addWidget(detailView_);
-    row->addLayout(right, 1);
+    row->addWidget(detailView_, 2);
+    row->addLayout(right, 3);
     return page;
 }
 
