@@ -119,6 +119,7 @@ void MainWindow::ReplayTick(void (Replay::*tick)()) {
 void MainWindow::OnShown() {
     engine_->life().Shown();
     Refresh();
+    table_->TellOfZoom();
     if (const auto tick = std::exchange(waitingTick_, nullptr)) ReplayTick(tick);
 }
 

@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QToolTip>
 #include <cmath>
 
 #include "desktop/appearance/ground.h"
@@ -15,7 +16,8 @@ namespace {
 constexpr double kShiftLeft = 20;  // twips that the table stands left of the middle
 const QSize kTablePixels(qRound(kTableWidth / kTwipsPerPixel),
                          qRound(kTableHeight / kTwipsPerPixel));
-constexpr int kWheelStep = 120;  // eighths of a degree, one notch
+constexpr int kTellTime = 12000;  // milliseconds
+constexpr int kWheelStep = 120;   // eighths of a degree, one notch
 
 /// The pixel that a point lies on; a point at its very edge belongs to it whatever its rounding.
 QPoint PixelOf(const QPointF& devicePixels) {
@@ -97,6 +99,14 @@ void TableView::ZoomBy(int direction) {
     TakeChanges();
     update();
     FollowPointer();
+}
+
+void TableView::TellOfZoom() {
+    if (!isVisible() || !zoom_.TakeNews()) return;
+    const QString text = tr("Ctrl with + and - makes the cards larger and smaller.");
+    const int wide = QFontMetrics(QToolTip::font()).horizontalAdvance(text);
+    QToolTip::showText(mapToGlobal(QPoint((width() - wide) / 2, height() * 3 / 4)), text, this, {},
+                       kTellTime);
 }
 
 QSize TableView::Room() const {

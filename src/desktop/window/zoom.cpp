@@ -32,6 +32,12 @@ bool Allowed(int percent, QSize room, QSize table) {
 
 Zoom::Zoom(SettingsStore& store) : store_(store), percent_(StoredPercent(store)) {}
 
+bool Zoom::TakeNews() {
+    if (!store_.Read(kSection, kKey, "").empty()) return false;
+    store_.Write(kSection, kKey, std::to_string(percent_));
+    return true;
+}
+
 bool Zoom::Step(int direction, QSize room, QSize table) {
     int next = 100;
     if (direction != 0) {

@@ -12,6 +12,9 @@ class Zoom {
 public:
     explicit Zoom(SettingsStore& store);
 
+    /// Whether nobody knows of it yet in this home; from then on somebody does.
+    bool TakeNews();
+
     /// Percent; 100 is the table's own size.
     int Percent() const { return percent_; }
     double Factor() const { return percent_ / 100.0; }
