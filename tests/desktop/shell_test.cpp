@@ -2,10 +2,12 @@
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
 
 #include "desktop/platform/system.h"
+#include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/window/splash.h"
 #include "engine/null_desktop.h"
@@ -59,6 +61,30 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().data().CurPlayer(), "Player1");
         QVERIFY(std::filesystem::is_directory(fixture.Folder()));
         QCOMPARE(fixture.window.windowTitle(), "Varnello");
+    }
+
+    void DatesAreWholeInEveryLocale() {
+        const DateTime moment{2026, 11, 23, 20, 37, 58};
+        for (const QLocale& locale : QLocale::matchingLocales(
+                 QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+            QLocale::setDefault(locale);
+            const LocaleDates dates;
+            const QString text = ToQt(dates.DateAndTime(moment));
+            for (const int part : {23, 37, 58}) {
+                QVERIFY2(text.contains(locale.toString(part)), qPrintable(text));
+            }
+            // Without the half of the day and the words that the locale puts in there is no letter
+            // in a time, neither of a pattern nor of a zone.
+            QString time = text.mid(ToQt(dates.Date(moment)).size() + 1).remove(locale.pmText());
+            const QStringList words = locale.timeFormat().split('\'');
+            for (qsizetype i = 1; i < words.size(); i += 2) {
+                time.remove(time.indexOf(words[i]), words[i].size());
+            }
+            const QRegularExpression wrong("[A-Za-z()\\[\\]]"), tail("[\\s,]$");
+            QVERIFY2(!time.contains(wrong) && !text.contains(tail),
+                     qPrintable(locale.name() + ' ' + text));
+        }
+        QLocale::setDefault(QLocale::system());
     }
 
     void EachRunDrawsAnotherNumber() {
