@@ -168,6 +168,22 @@ private Q_SLOTS:
         QVERIFY(!isNew(pictures.DeckPic(9999)));  // the default back stands in
     }
 
+    void ASelectedCardIsTheNegativeOfItsFace() {
+        const CardPictures pictures(1);
+        const auto shown = [&](FaceMode face, bool selected) {
+            KesCard card;
+            card.SetValue(2, 11, 2);
+            card.FaceMode = face;
+            card.Selected = selected;
+            const CardPictures::Part part = pictures.Shown(card, 531);
+            return part.sheet->copy(part.rect);
+        };
+        QImage negative = shown(FaceMode::Open, false);
+        negative.invertPixels();
+        QCOMPARE(shown(FaceMode::Open, true), negative);
+        QCOMPARE(shown(FaceMode::Closed, true), shown(FaceMode::Closed, false));
+    }
+
     void WhatShowsOfACoveredCardTellsItsValue() {
         // No two cards look alike in the strips that the fans leave free.
         const CardPictures pictures(1);

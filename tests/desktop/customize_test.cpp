@@ -91,7 +91,11 @@ private Q_SLOTS:
         QCOMPARE(data.Get(keys::ReplaySpeed), 0);
         QCOMPARE(data.Get(SwitchOf(Sound::Start)), 0);
         QCOMPARE(data.Get(SwitchOf(Sound::CardUp)), -1);
-        QVERIFY(fixture.window.table().grab().toImage() != before);
+        const QImage after = fixture.window.table().grab().toImage();
+        QVERIFY(after != before);
+        data.Set(keys::DeckIndex, 9999);
+        fixture.window.table().RefreshDecks();
+        QCOMPARE(fixture.window.table().grab().toImage(), after);  // the old back stays
     }
 
     void TheRecentListIsClearedAtOnceAfterAQuestion() {

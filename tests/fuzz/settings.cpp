@@ -44,7 +44,7 @@ void CheckPlayers(const cData& data) {
         const std::string name = slot == 0 ? data.CurPlayer() : data.GetPlayer(slot);
         Require((slot > players) == name.empty(), "a gap between the players");
         const std::filesystem::path file = ScorePath(data, name);
-        Require(file.parent_path() == data.AppDir(), "results outside the data folder");
+        Require(file.parent_path() / "" == data.AppDir(), "results outside the data folder");
         Require(file.native().find('\0') == std::string::npos, "a name that a file can't have");
     }
 }

@@ -1,5 +1,7 @@
 #include "desktop/appearance/looks.h"
 
+#include <algorithm>
+
 #include "render/back.h"
 #include "tiles/tile.h"
 
@@ -28,6 +30,13 @@ const QList<LookGroup>& DeckGroups() {
         return all;
     }();
     return groups;
+}
+
+bool HasDeck(int deckIndex) {
+    const QList<LookGroup>& groups = DeckGroups();
+    return std::any_of(groups.begin(), groups.end(), [&](const LookGroup& group) {
+        return group.ids.contains(deckIndex);
+    });
 }
 
 }  // namespace varnello

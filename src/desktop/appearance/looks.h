@@ -16,5 +16,7 @@ struct LookGroup {
 const QList<LookGroup>& TileGroups();
 /// The deck backs.
 const QList<LookGroup>& DeckGroups();
+/// Whether a deck number has a back of its own.
+bool HasDeck(int deckIndex);
 
 }  // namespace varnello

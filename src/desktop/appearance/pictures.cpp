@@ -42,7 +42,13 @@ CardPictures::Part CardPictures::DeckPic(int deckIndex) const {
 
 CardPictures::Part CardPictures::Shown(const KesCard& card, int deckIndex) const {
     if (card.FaceMode == FaceMode::Closed) return DeckPic(deckIndex);
-    return MainPic(card.Suit * render::rankCount + card.Num + 1);
+    const Part face = MainPic(card.Suit * render::rankCount + card.Num + 1);
+    if (!card.Selected) return face;
+    if (negatives_.isNull()) {
+        negatives_ = *face.sheet;
+        negatives_.invertPixels();
+    }
+    return {&negatives_, face.rect};
 }
 
 }  // namespace varnello

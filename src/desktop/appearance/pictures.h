@@ -37,6 +37,7 @@ private:
     double ratio_;
     QSize size_;
     mutable QImage faces_;
+    mutable QImage negatives_;
     mutable QImage slots_;
     mutable QImage back_;
     mutable int backIndex_ = 0;

@@ -233,6 +233,7 @@ void MainWindow::BeforeStart() {
     breath_.stop();
     finish_.reset();
     waitingTick_ = nullptr;
+    table_->RefreshDecks();
     if (select_) select_->close();
 }
 

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "desktop/appearance/ground.h"
+#include "desktop/appearance/looks.h"
 
 namespace varnello {
 namespace {
@@ -43,6 +44,7 @@ TableView::TableView(Motion& motion, Engine& engine, QWidget* parent)
         connect(bar, &QScrollBar::valueChanged, this, [this] { update(); });
     }
     zoom_.FitInto(Room(), kTablePixels);
+    RefreshDecks();
     setAccessibleName(tr("Card table"));
     setFocusPolicy(Qt::StrongFocus);  // for who follows the focus to hear what happens
     connect(&motion_, &Motion::Moved, this, [this] {
@@ -90,7 +92,11 @@ void TableView::RefreshBackground() {
     update();
 }
 
-void TableView::RefreshDecks() { update(); }
+void TableView::RefreshDecks() {
+    const int deck = engine_.data().Get(keys::DeckIndex);
+    if (HasDeck(deck)) deck_ = deck;
+    update();
+}
 
 void TableView::ZoomBy(int direction) {
     CancelGesture();
@@ -192,9 +198,10 @@ QRect TableView::CardRect(double left, double top) {
 
 TableView::Shown TableView::Look(const KesCard& card) {
     if (!card.Visible) return {};
-    const bool closed = card.FaceMode == FaceMode::Closed;
+    const int face = card.Suit * kRanks + card.Num + 1;
+    const int open = card.Selected ? -face : face;
     return {RectOnTable(Pictures(), card.Left, card.Top),
-            closed ? 0 : card.Suit * kRanks + card.Num + 1, card.Height};
+            card.FaceMode == FaceMode::Closed ? 0 : open, card.Height};
 }
 
 TableView::Shown TableView::Look(const KesEmpty& slot) {
@@ -301,8 +308,8 @@ void TableView::paintEvent(QPaintEvent* event) {
 
     const QRect dirty = device.mapRect(QRectF(event->rect())).toAlignedRect().translated(-corner);
     painter.drawImage(dirty.topLeft(), ground, dirty.translated(table));
-    PaintTable(painter, motion_.Scene(), pictures, engine_.data().Get(keys::DeckIndex), dirty,
-               hand_.lowest, [&] { handPainter_->Paint(painter, hand_); });
+    PaintTable(painter, motion_.Scene(), pictures, deck_, dirty, hand_.lowest,
+               [&] { handPainter_->Paint(painter, hand_); });
 }
 
 bool TableView::OnStockSlot(const QPointF& devicePixels) {

@@ -28,7 +28,7 @@ public:
 
     /// Paints the background anew from the settings.
     void RefreshBackground();
-    /// Shows the deck's back anew from the settings.
+    /// Takes the deck's back anew from the settings. A number without one leaves the old back.
     void RefreshDecks();
     /// The centre of the visible part of a card, in widget coordinates.
     QPoint CardCentre(PicID id) const;
@@ -109,6 +109,7 @@ private:
     std::unique_ptr<HandPainter> handPainter_;
     QImage ground_;
     QRect groundTable_;  ///< where the table is on it
+    int deck_ = keys::DeckIndex.Default;
     QScrollBar* across_;
     QScrollBar* down_;
     std::array<Shown, kCardObjects> shownCards_;

@@ -18,6 +18,7 @@ struct KesCard {
     std::int16_t Suitpile = 0;  ///< suit within its pack, 0 to 3 and 4 to 7; names its foundation
     Place Loc;
     varnello::FaceMode FaceMode = FaceMode::Closed;
+    bool Selected = false;  ///< an open card shows its negative
     bool Visible = false;
     double Left = 0;  ///< twips on the table; fractions occur only in flight
     double Top = 0;

@@ -44,7 +44,8 @@ bool SameCard(const KesCard& a, const KesCard& b) {
     if (!a.Visible || !b.Visible) return a.Visible == b.Visible;
     const bool closed = a.FaceMode == FaceMode::Closed;
     const bool sameValue = closed || (a.Suit == b.Suit && a.Num == b.Num);
-    return a.FaceMode == b.FaceMode && sameValue && a.Left == b.Left && a.Top == b.Top &&
+    const bool sameLook = closed || a.Selected == b.Selected;
+    return a.FaceMode == b.FaceMode && sameValue && sameLook && a.Left == b.Left && a.Top == b.Top &&
            a.Height == b.Height;
 }
 

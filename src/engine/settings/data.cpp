@@ -31,12 +31,17 @@ bool IsWholeNumber(std::string_view text) {
 
 std::span<const NumberKey> NumberKeys() { return kNumberKeys; }
 
-cData::cData(SettingsStore& store, SoundPlayer& sounds, std::filesystem::path appDir)
-    : store_(store), sounds_(sounds), appDir_(std::move(appDir)) {}
+cData::cData(SettingsStore& store, SoundPlayer& sounds, const std::filesystem::path& appDir)
+    : store_(store), sounds_(sounds), appDir_(appDir / "") {}
 
 std::int16_t cData::Get(const NumberKey& key) const {
-    const auto value = ParseWhole<std::int16_t>(store_.Read(kDataSection, key.Key, {}));
-    return value.value_or(key.Default);
+    for (const auto& [seen, value] : seen_) {
+        if (seen == key.Key) return value;
+    }
+    const auto stored = ParseWhole<std::int16_t>(store_.Read(kDataSection, key.Key, {}));
+    const std::int16_t value = stored.value_or(key.Default);
+    if (readers_ > 0) seen_.emplace_back(key.Key, value);
+    return value;
 }
 
 void cData::Set(const NumberKey& key, std::int16_t value) {

@@ -54,11 +54,13 @@ inline constexpr std::string_view kCustomColorKey = "CustomColor";
 inline constexpr std::int32_t kDefaultCustomColor = 128;  // red + 256 x green + 65536 x blue
 
 /// Settings, players, recent games, and the record of the current game. Settings aren't cached:
-/// every read goes to the store and every write is durable at once.
+/// every read goes to the store, unless the command that reads holds a `OneReading`, and every
+/// write is durable at once. What stands there already isn't written again.
 class cData {
 public:
-    cData(SettingsStore& store, SoundPlayer& sounds, std::filesystem::path appDir);
+    cData(SettingsStore& store, SoundPlayer& sounds, const std::filesystem::path& appDir);
 
+    /// The folder of all data files. Its text ends with the separator.
     const std::filesystem::path& AppDir() const { return appDir_; }
     /// For what a desktop remembers beside the program's own settings.
     SettingsStore& Store() { return store_; }
