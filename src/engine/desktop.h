@@ -34,7 +34,11 @@ public:
 class Clock {
 public:
     virtual ~Clock() = default;
+    /// What the user's wall clock shows.
     virtual DateTime Now() const = 0;
+    /// Seconds that don't jump when the wall clock does, with daylight saving or a change of zone:
+    /// time that passes is a difference of these. A clock without a zone counts by the wall.
+    virtual std::int64_t Seconds() const { return SecondsSinceEpoch(Now()); }
     /// Any value that differs from run to run and moment to moment in its first 21 binary digits.
     virtual double Timer() const = 0;
 };

@@ -101,6 +101,20 @@ private Q_SLOTS:
         QCOMPARE(numbers.size(), 20);
     }
 
+    void SecondsAreTheSameInEveryZone() {
+        const QByteArray home = qgetenv("TZ");
+        for (const auto& [zone, hours] : {std::pair("EAST-14", 14), std::pair("WEST11", -11)}) {
+            qputenv("TZ", zone);
+            tzset();
+            const SystemClock clock;
+            const std::int64_t seconds = clock.Seconds();
+            const std::int64_t ahead = SecondsSinceEpoch(clock.Now()) - seconds;
+            QVERIFY(ahead - hours * 3600 == 0 || ahead - hours * 3600 == 1);
+        }
+        home.isNull() ? qunsetenv("TZ") : qputenv("TZ", home);
+        tzset();
+    }
+
     void TheSelectorStartsTheChosenGameForTheChosenPlayer() {
         WindowFixture fixture;
         fixture.engine().data().AddPlayer("Ann");

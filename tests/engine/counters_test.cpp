@@ -60,6 +60,23 @@ TEST_F(Counters, TimeStaysWithinItsLimits) {
     EXPECT_EQ(engine.counters().ElapsedTime(), 2147483647);
 }
 
+TEST_F(Counters, TimeDoesntJumpWithTheWallClock) {
+    struct SummerTime : script::ScriptClock {
+        std::int64_t Seconds() const override { return SecondsSinceEpoch(Now()) - ahead; }
+        std::int64_t ahead = 3600;
+    } berlin;
+    Engine there{{store, berlin, surface, sounds, messages, folder.Path() / "data"}};
+    berlin.Set({2026, 3, 29, 1, 55, 0});
+    there.life().StartGame("Freecell", GameNumber::Number(1));
+    berlin.Set({2026, 3, 29, 3, 5, 0});  // ten minutes later
+    berlin.ahead = 7200;
+    EXPECT_EQ(there.counters().ElapsedTime(), 600);
+    there.counters().TimeTick();
+    there.commands().CloseGame();
+    EXPECT_EQ(ReadFile(ScoreFile()),
+              "\"3/29/2026 3:05:00 AM\",\"Freecell\",1,600,0,0,0\r\n");
+}
+
 TEST_F(Counters, RedealSlotShowsWhetherCardsAreLeft) {
     GameRow row = Hearts();
     row.Home.Cards = 12;

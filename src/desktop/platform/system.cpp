@@ -23,6 +23,8 @@ DateTime SystemClock::Now() const {
             .second = time.second()};
 }
 
+std::int64_t SystemClock::Seconds() const { return QDateTime::currentSecsSinceEpoch(); }
+
 double SystemClock::Timer() const {
     // A generator is seeded from the first 21 binary digits of a number. All milliseconds since
     // 1970 have them in common for a quarter of an hour.

@@ -10,6 +10,7 @@ namespace varnello {
 class SystemClock : public Clock {
 public:
     DateTime Now() const override;
+    std::int64_t Seconds() const override;
     double Timer() const override;
 };
 

@@ -80,10 +80,6 @@ DateTime FromSecondsSinceEpoch(std::int64_t seconds) {
             .second = static_cast<int>(time.seconds().count())};
 }
 
-std::int64_t SecondsBetween(const DateTime& from, const DateTime& to) {
-    return SecondsSinceEpoch(to) - SecondsSinceEpoch(from);
-}
-
 std::int64_t DayNumber(const DateTime& moment) {
     return std::chrono::sys_days{DateOf(moment)}.time_since_epoch().count();
 }

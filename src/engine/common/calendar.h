@@ -26,9 +26,6 @@ bool IsValid(const DateTime& moment);
 std::int64_t SecondsSinceEpoch(const DateTime& moment);
 DateTime FromSecondsSinceEpoch(std::int64_t seconds);
 
-/// The calendar difference `to` - `from` in seconds; negative when `to` lies earlier.
-std::int64_t SecondsBetween(const DateTime& from, const DateTime& to);
-
 /// Days since 1970-01-01.
 std::int64_t DayNumber(const DateTime& moment);
 /// Months since year 0; the difference of two counts the month boundaries between them.

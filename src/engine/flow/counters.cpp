@@ -18,9 +18,14 @@ std::int16_t Counters::CalcScore() const {
 }
 
 std::int32_t Counters::ElapsedTime() const {
-    if (!field_.data.GameRunning) return 0;
-    const std::int64_t seconds = SecondsBetween(field_.data.GameStartTime, clock_.Now());
-    return Saturate32(std::max<std::int64_t>(seconds, 0));  // a clock may have been set back
+    return field_.data.GameRunning ? SecondsSince(field_.data.GameStartSeconds) : 0;
+}
+
+std::int32_t Counters::SessionTime() const { return SecondsSince(field_.data.SesStartSeconds); }
+
+std::int32_t Counters::SecondsSince(std::int64_t start) const {
+    // A clock may have been set back.
+    return Saturate32(std::max<std::int64_t>(clock_.Seconds() - start, 0));
 }
 
 CounterCaptions Counters::TimeTick() {

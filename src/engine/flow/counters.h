@@ -27,10 +27,13 @@ public:
     std::int16_t CalcScore() const;
     /// Seconds since the deal was shown; 0 without a game.
     std::int32_t ElapsedTime() const;
+    /// Seconds since the program started.
+    std::int32_t SessionTime() const;
     /// `tmrTime`: refreshes the stored counters; the result is what the menu bar shows.
     CounterCaptions TimeTick();
 
 private:
+    std::int32_t SecondsSince(std::int64_t start) const;
     /// The stock's mark in games with a redeal: the stop sign once nothing is left to turn over.
     void ShowRedealMark();
 

@@ -24,6 +24,7 @@ Engine::Engine(const Desktop& desktop)
       players_(data_, score_, desktop),
       results_(data_, score_, desktop) {
     data_.SesStartTime = desktop_.clock.Now();
+    data_.SesStartSeconds = desktop_.clock.Seconds();
 }
 
 void Engine::InitMain() {

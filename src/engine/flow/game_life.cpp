@@ -54,6 +54,7 @@ void GameLife::Shown() {
     if (!std::exchange(dealing_, false)) return;
     field_.data.GameRunning = true;
     field_.data.GameStartTime = clock_.Now();
+    field_.data.GameStartSeconds = clock_.Seconds();
 }
 
 void GameLife::LeaveGame() {

@@ -38,8 +38,7 @@ ReportRow RunningRow(const Engine& engine, RecordColumns columns) {
 }
 
 std::string SessionElapsedLabel(const Engine& engine) {
-    const std::int64_t seconds = SecondsBetween(engine.data().SesStartTime, engine.Now());
-    return "Time Elapsed : " + FormatTime(Saturate32(std::max<std::int64_t>(seconds, 0)));
+    return "Time Elapsed : " + FormatTime(engine.counters().SessionTime());
 }
 
 std::vector<std::string> SessionLabels(const Engine& engine) {

@@ -119,6 +119,9 @@ public:
     // The game on the table. These stay readable after it has ended.
     DateTime SesStartTime;
     DateTime GameStartTime;
+    // The same moments as `Clock::Seconds` counts.
+    std::int64_t SesStartSeconds = 0;
+    std::int64_t GameStartSeconds = 0;
     bool GameRunning = false;
     bool GameWon = false;  ///< all cards are up, and the running game's result isn't booked yet
     /// Whether the running game can still be played.
