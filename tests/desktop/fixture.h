@@ -10,7 +10,8 @@
 #include "desktop/window/main_window.h"
 #include "engine/common/text_file.h"
 #include "engine/definitions/catalogue.h"
-#include "engine/null_desktop.h"
+
+#include "../counted_store.h"
 
 /// Does something as soon as a modal window of this kind is open.
 template <typename Dialog>
@@ -94,7 +95,7 @@ public:
     };
 
     QTemporaryDir folder;
-    varnello::MemoryStore settings;
+    varnello::test::CountedStore settings;
     StillMovable clock;
     HeardSounds sounds;
     varnello::MainWindow window;

@@ -14,6 +14,7 @@
 #include "script/looking.h"
 #include "script/stand_ins.h"
 
+#include "../counted_store.h"
 #include "../files.h"
 
 namespace varnello::test {
@@ -101,7 +102,7 @@ struct TestTable {
 
     TempFolder folder;
     std::ostringstream out;
-    script::MemoryStore store;
+    CountedStore store;
     script::ScriptClock clock;
     FollowingSurface surface;
     script::PrintedSounds sounds{out};

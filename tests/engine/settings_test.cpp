@@ -28,6 +28,37 @@ TEST_F(Settings, NonsenseCountsAsTheDefault) {
     EXPECT_EQ(data.LastGName(), "Avenue");
 }
 
+TEST_F(Settings, AreWrittenOnceForACommandAndOnlyWhenTheyChange) {
+    const auto written = [&](const std::string& game) {
+        store.writes = 0;
+        Start(game);
+        return store.writes;
+    };
+    EXPECT_EQ(written("Zodiac"), 1);
+    EXPECT_EQ(written("Zodiac"), 0);
+    EXPECT_EQ(written("Penguin"), 1);
+    store.writes = 0;
+    engine.choosing().ClearRecentGames();
+    EXPECT_EQ(store.writes, 1);
+    engine.choosing().ClearRecentGames();
+    data.Set(keys::Fade, 1);
+    data.CustomColor(128);
+    data.CurPlayer("Player1");
+    EXPECT_EQ(store.writes, 1) << "what stands there, or counts when nothing does";
+}
+
+TEST_F(Settings, AreReadOnceForACascade) {
+    data.Set(keys::Autoplay, 0);
+    Play(Hearts());
+    Start("Hearts");
+    data.Set(keys::Autoplay, 1);
+    store.reads.clear();
+    DropOn(Find(kAce), Cell::Goal, 0);
+    EXPECT_TRUE(data.GameWon);
+    EXPECT_EQ(store.reads["Autoplay"], 1);
+    EXPECT_EQ(store.reads["SoundAutoPlay"], 1);
+}
+
 TEST_F(Settings, SoundIsHeardOnlyWithItsSwitchAtMinusOne) {
     for (const SoundRow& row : kSounds) {
         for (const SoundRow& other : kSounds) data.Set(SwitchOf(other.Event), 1);

@@ -16,15 +16,22 @@ KesEmpty& Table::Slot(Cell cell, int pile) {
     return PicRes.at(index);
 }
 
-std::vector<PicID> Table::VisibleCards() const {
-    std::vector<PicID> cards;
-    cards.reserve(PicCards.size());
-    for (PicID id = 0; id < kCardObjects; ++id) {
-        if (Card(id).Visible) cards.push_back(id);
+const std::vector<PicID>& Table::VisibleCards() const {
+    const auto isVisible = [&](PicID id) { return Card(id).Visible; };
+    const auto liesBehind = [&](PicID a, PicID b) { return Card(a).Height < Card(b).Height; };
+    const auto visible = std::count_if(PicCards.begin(), PicCards.end(),
+                                       [](const KesCard& card) { return card.Visible; });
+    if (std::ssize(order_) != visible || !std::all_of(order_.begin(), order_.end(), isVisible)) {
+        order_.clear();
+        order_.reserve(PicCards.size());
+        for (PicID id = 0; id < kCardObjects; ++id) {
+            if (isVisible(id)) order_.push_back(id);
+        }
     }
-    std::sort(cards.begin(), cards.end(),
-              [&](PicID a, PicID b) { return Card(a).Height < Card(b).Height; });
-    return cards;
+    if (!std::is_sorted(order_.begin(), order_.end(), liesBehind)) {
+        std::sort(order_.begin(), order_.end(), liesBehind);
+    }
+    return order_;
 }
 
 PicID Table::CardAt(double x, double y) const {

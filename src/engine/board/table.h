@@ -18,8 +18,8 @@ public:
 
     void BringToFront(PicID id) { Card(id).Height = ++front_; }
 
-    /// The visible cards from the backmost to the frontmost.
-    std::vector<PicID> VisibleCards() const;
+    /// The visible cards from the backmost to the frontmost; sorted only when that has changed.
+    const std::vector<PicID>& VisibleCards() const;
     /// The frontmost visible card that covers this point in twips, or `kNoCard`.
     PicID CardAt(double x, double y) const;
 
@@ -35,6 +35,7 @@ public:
 
 private:
     std::uint64_t front_ = 0;
+    mutable std::vector<PicID> order_;  ///< as it was asked for last
 };
 
 /// Whether two tables look the same: what is visible on them, where, and what lies in front.

@@ -80,7 +80,7 @@ void Choosing::ClearFavorites() {
 }
 
 void Choosing::ClearRecentGames() {
-    data_.ClearRecent();
+    data_.Together([&] { data_.ClearRecent(); });
     messages_.Inform("Recent Games List has been Cleared.");
 }
 

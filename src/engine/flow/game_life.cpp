@@ -32,10 +32,12 @@ void GameLife::StartGame(const std::string& name, const GameNumber& number) {
     LeaveGame();
     if (dealing_) ClearTable();
     cData& data = field_.data;
-    data.SetRecent(name);
+    data.Together([&] {
+        data.SetRecent(name);
+        data.CurGName(name);
+    });
     select_(field_.games, name);
     data.CurGNo = number;
-    data.CurGName(name);
     caption_ = std::string(kProductName) + " [" + data.CurGName() + "] [" + data.CurPlayer() +
                "] [" + data.CurGNo.Shown() + "]";
 

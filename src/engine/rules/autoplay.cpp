@@ -76,6 +76,7 @@ bool PlayToGoal(const Playfield& field, PicID id) {
 }
 
 void AutoPlay(const Playfield& field) {
+    const cData::OneReading settings(field.data);
     if (field.games.Tag() == Tag::Spider) {
         TakeRunsOff(field);
     } else {

@@ -45,7 +45,13 @@ std::int16_t cData::Get(const NumberKey& key) const {
 }
 
 void cData::Set(const NumberKey& key, std::int16_t value) {
+    if (Get(key) == value) return;
+    std::erase_if(seen_, [&](const auto& seen) { return seen.first == key.Key; });
     store_.Write(kDataSection, key.Key, std::to_string(value));
+}
+
+void cData::Together(const std::function<void()>& change) {
+    if (!store_.Change(change)) change();
 }
 
 bool cData::SetText(std::string_view key, std::string_view value) {
@@ -63,7 +69,9 @@ std::string cData::LastGName() const {
     return FindGame(name) ? name : GetGName(1);
 }
 
-void cData::LastGName(std::string_view name) { store_.Write(kDataSection, kLastGNameKey, name); }
+void cData::LastGName(std::string_view name) {
+    if (LastGName() != name) store_.Write(kDataSection, kLastGNameKey, name);
+}
 
 std::int32_t cData::CustomColor() const {
     const auto value = ParseWhole<std::int32_t>(store_.Read(kDataSection, kCustomColorKey, {}));
@@ -71,7 +79,7 @@ std::int32_t cData::CustomColor() const {
 }
 
 void cData::CustomColor(std::int32_t color) {
-    store_.Write(kDataSection, kCustomColorKey, std::to_string(color));
+    if (CustomColor() != color) store_.Write(kDataSection, kCustomColorKey, std::to_string(color));
 }
 
 std::int16_t cData::TotalGames() const { return static_cast<std::int16_t>(varnello::TotalGames()); }
@@ -92,7 +100,7 @@ void cData::CurGName(std::string_view name) {
 }
 
 void cData::PlaySound(Sound event) {
-    if (Get(SwitchOf(event)) == -1) sounds_.Play(event);
+    if (SoundOn(event)) sounds_.Play(event);
 }
 
 std::string cData::Slot(std::string_view section, std::int16_t index) const {
@@ -100,7 +108,7 @@ std::string cData::Slot(std::string_view section, std::int16_t index) const {
 }
 
 void cData::Slot(std::string_view section, std::int16_t index, std::string_view text) {
-    store_.Write(section, std::to_string(index), text);
+    if (Slot(section, index) != text) store_.Write(section, std::to_string(index), text);
 }
 
 std::int16_t cData::CountSlots(std::string_view section, std::int16_t slots) const {

@@ -7,6 +7,8 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "engine/desktop.h"
 #include "engine/settings/game_number.h"
@@ -104,6 +106,23 @@ public:
 
     /// Several reads and writes as one change, see `SettingsStore::Change`.
     bool Change(const std::function<void()>& change) { return store_.Change(change); }
+    /// The same for what is to hold in this run even if it can't be written.
+    void Together(const std::function<void()>& change);
+
+    /// While one lives, each whole-number setting is read from the store once: for what would ask
+    /// for it again with every card.
+    class OneReading {
+    public:
+        explicit OneReading(const cData& data) : data_(data) { ++data_.readers_; }
+        ~OneReading() {
+            if (--data_.readers_ == 0) data_.seen_.clear();
+        }
+        OneReading(const OneReading&) = delete;
+        OneReading& operator=(const OneReading&) = delete;
+
+    private:
+        const cData& data_;
+    };
 
     // Recent games, 1 the newest.
     std::string GetRecent(std::int16_t index) const;
@@ -111,6 +130,7 @@ public:
     std::int16_t RecentCount() const;
     void ClearRecent();
 
+    bool SoundOn(Sound event) const { return Get(SwitchOf(event)) == -1; }
     /// Plays the event's sound if its switch is on.
     void PlaySound(Sound event);
     /// Plays it whatever its switch says, for who wants to know how it sounds.
@@ -143,6 +163,8 @@ private:
     SoundPlayer& sounds_;
     std::filesystem::path appDir_;
     std::string curGName_;
+    mutable int readers_ = 0;  ///< living `OneReading`s
+    mutable std::vector<std::pair<std::string_view, std::int16_t>> seen_;
 };
 
 /// A name that a player may have: not blank, and fit to be a file's name everywhere.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "engine/null_desktop.h"
+
+namespace varnello::test {
+
+/// Settings in memory that count how often a key is read and how often a file would be written.
+class CountedStore : public MemoryStore {
+public:
+    std::string Read(std::string_view section, std::string_view key,
+                     std::string_view fallback) const override {
+        ++reads[std::string(key)];
+        return MemoryStore::Read(section, key, fallback);
+    }
+    void Write(std::string_view section, std::string_view key, std::string_view text) override {
+        ++(changing_ ? changed_ : writes);
+        MemoryStore::Write(section, key, text);
+    }
+    bool Change(const std::function<void()>& change) override {
+        changing_ = true;
+        change();
+        changing_ = false;
+        if (std::exchange(changed_, 0) > 0) ++writes;
+        return true;
+    }
+
+    mutable std::map<std::string, int> reads;
+    int writes = 0;
+
+private:
+    bool changing_ = false;
+    int changed_ = 0;
+};
+
+}  // namespace varnello::test
