@@ -45,6 +45,7 @@ private Q_SLOTS:
         QTest::newRow("default") << 1007 << QColor(0, 100, 0);
         QTest::newRow("not offered but known") << 1025 << QColor(255, 99, 71);
         QTest::newRow("custom") << 1000 << QColor(128, 0, 0);
+        QTest::newRow("no colour") << -1000 << QColor(Qt::black);
         QTest::newRow("beyond the table") << 1026 << QColor(0, 100, 0);
         QTest::newRow("nonsense") << -3 << QColor(0, 100, 0);
     }
@@ -53,7 +54,10 @@ private Q_SLOTS:
         QFETCH(int, bgIndex);
         QFETCH(QColor, colour);
         QImage surface(3, 300, QImage::Format_RGB32);
-        SetBG(surface, 1, {.bgIndex = bgIndex, .fade = false});
+        SetBG(surface, 1,
+              bgIndex == -1000
+                  ? BackgroundChoice{.bgIndex = 1000, .fade = false, .customColor = 1 << 24}
+                  : BackgroundChoice{.bgIndex = bgIndex, .fade = false});
         QCOMPARE(surface.pixelColor(1, 0), colour);
         QCOMPARE(surface.pixelColor(2, 299), colour);
     }

@@ -61,6 +61,32 @@ private Q_SLOTS:
         QVERIFY(!ItemCalled(dialog.backgrounds(), "Red"));  // known, but not offered
     }
 
+    void WhatNoControlCanGiveStaysUnlessChanged() {
+        WindowFixture fixture;
+        cData& data = fixture.engine().data();
+        const std::pair<NumberKey, std::int16_t> odd[] = {
+            {keys::CardSpeed, 70},   {keys::ReplaySpeed, -4}, {keys::RangeIndex, 99},
+            {keys::BGIndex, 1021},   {keys::Fade, 1},         {keys::DeckIndex, 777},
+            {SwitchOf(Sound::Win), 5}};
+        for (const auto& [key, value] : odd) data.Set(key, value);
+        CustomizeDialog dialog(fixture.engine(), &fixture.window);
+        QCOMPARE(dialog.Slider(1)->value(), 0);
+        QCOMPARE(dialog.Slider(4)->value(), 50);
+        QCOMPARE(dialog.range()->currentIndex(), 14);
+        QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(dialog.backgrounds(), &tab);
+        QVERIFY(dialog.fade()->isEnabled());
+        dialog.Slider(2)->setValue(1);
+        dialog.fade()->click();
+        fixture.settings.writes = 0;
+        Q_EMIT dialog.findChild<QDialogButtonBox*>()->accepted();
+        QCOMPARE(fixture.settings.writes, 1);
+        QCOMPARE(data.Get(keys::UndoSpeed), 49);
+        for (const auto& [key, value] : odd) {
+            QCOMPARE(data.Get(key), key.Key == keys::Fade.Key ? 0 : value);
+        }
+    }
+
     void CancelDropsAndOkStores() {
         WindowFixture fixture;
         cData& data = fixture.engine().data();

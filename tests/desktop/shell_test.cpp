@@ -145,6 +145,9 @@ private Q_SLOTS:
         QTRY_VERIFY(menu.mFile(FileItem::Restart)->isEnabled() &&
                     menu.mFile(FileItem::Close)->isEnabled());
         QVERIFY(!menu.mGame(GameItem::Undo)->isEnabled() && !toolbar.Button(5)->isChecked());
+        fixture.engine().data().Set(keys::Autoplay, 2);  // on, but not what the button shows
+        QTRY_VERIFY(menu.mGame(GameItem::Autoplay)->isChecked());
+        QVERIFY(!toolbar.Button(5)->isChecked());
         QCOMPARE(menu.mRecent(1)->text(), "&1 Freecell");
         fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
         QTRY_VERIFY(menu.mGame(GameItem::Undo)->isEnabled() && toolbar.Button(7)->isEnabled());

@@ -12,8 +12,9 @@ namespace {
 constexpr int kBands = 256;
 
 QColor ColourOf(const BackgroundChoice& choice) {
+    // A value that is no colour has no part above 0.
     if (choice.bgIndex == kCustomBackground) {
-        if (const auto colour = ColourOfValue(choice.customColor)) return *colour;
+        return ColourOfValue(choice.customColor).value_or(Qt::black);
     }
     if (const auto named = GetCol(choice.bgIndex)) return named->colour;
     return GetCol(keys::BGIndex.Default)->colour;

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/appearance/colours.h"
 #include "desktop/customize/scrolled_page.h"
@@ -36,6 +37,11 @@ struct CounterRow {
 constexpr std::array kCounters{CounterRow{"Show Time", keys::ShowTime},
                                CounterRow{"Show Score", keys::ShowScore},
                                CounterRow{"Show Moves", keys::ShowMoves}};
+
+/// Where the slider of a speed stands; for a stored value outside its range at the nearest end.
+int PositionOf(const cData& data, const NumberKey& speed) {
+    return std::clamp(kSlowest - data.Get(speed), 0, kSlowest);
+}
 
 std::int32_t ValueOfColour(const QColor& colour) {
     return colour.red() + 256 * colour.green() + 65536 * colour.blue();
@@ -95,18 +101,31 @@ void CustomizeDialog::ClearRecent() {
 
 void CustomizeDialog::Ok() {
     cData& data = engine_.data();
+    data.Together([&] {
+        StoreSpeedsAndSounds();
+        data.Set(keys::BGIndex, static_cast<std::int16_t>(background_.bgIndex));
+        if (background_.fade != StoredBackground(data).fade) {
+            data.Set(keys::Fade, background_.fade ? 1 : 0);
+        }
+        data.CustomColor(background_.customColor);
+        data.Set(keys::DeckIndex, static_cast<std::int16_t>(deck_));
+    });
+    accept();
+}
+
+// A control that still shows what its stored value shows leaves that value alone, which needn't be
+// one that the control can give.
+void CustomizeDialog::StoreSpeedsAndSounds() {
+    cData& data = engine_.data();
     for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
-        data.Set(kSpeeds[i].key, static_cast<std::int16_t>(kSlowest - sliders_[i]->value()));
+        const int position = sliders_[i]->value();
+        if (position == PositionOf(data, kSpeeds[i].key)) continue;
+        data.Set(kSpeeds[i].key, static_cast<std::int16_t>(kSlowest - position));
     }
     for (const SoundRow& row : kSounds) {
         const bool on = lvSound_->item(static_cast<int>(row.Event))->checkState() == Qt::Checked;
-        data.Set(SwitchOf(row.Event), on ? kTrue : std::int16_t{0});
+        if (on != data.SoundOn(row.Event)) data.Set(SwitchOf(row.Event), on ? kTrue : std::int16_t{0});
     }
-    data.Set(keys::BGIndex, static_cast<std::int16_t>(background_.bgIndex));
-    data.Set(keys::Fade, background_.fade ? 1 : 0);
-    data.CustomColor(background_.customColor);
-    data.Set(keys::DeckIndex, static_cast<std::int16_t>(deck_));
-    accept();
 }
 
 QWidget* CustomizeDialog::MakeCounters() {
@@ -132,7 +151,8 @@ QWidget* CustomizeDialog::MakeRange() {
     for (std::int16_t index = 1; index <= 15; ++index) {
         imcRange_->addItem(ToQt(HighestNumberText(index)));
     }
-    imcRange_->setCurrentIndex(engine_.data().Get(keys::RangeIndex) - 1);
+    const int last = imcRange_->count() - 1;
+    imcRange_->setCurrentIndex(std::clamp(engine_.data().Get(keys::RangeIndex) - 1, 0, last));
     connect(imcRange_, &QComboBox::activated, this, [this](int index) {
         engine_.data().Set(keys::RangeIndex, static_cast<std::int16_t>(index + 1));
     });
@@ -190,7 +210,7 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
         slider->setRange(0, kSlowest);
         slider->setSingleStep(1);
         slider->setPageStep(5);
-        slider->setValue(kSlowest - engine_.data().Get(kSpeeds[i].key));
+        slider->setValue(PositionOf(engine_.data(), kSpeeds[i].key));
         slider->setAccessibleName(frame->title());
         sliders_[i] = slider;
         auto* inside = new QVBoxLayout(frame);
@@ -219,8 +239,7 @@ void CustomizeDialog::FillSounds() {
     for (const SoundRow& row : kSounds) {
         auto* item = new QListWidgetItem(ToQt(row.Caption), lvSound_);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        const bool on = engine_.data().Get(SwitchOf(row.Event)) == kTrue;
-        item->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+        item->setCheckState(engine_.data().SoundOn(row.Event) ? Qt::Checked : Qt::Unchecked);
     }
     connect(lvSound_, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
         if (item->checkState() != Qt::Checked) return;

@@ -55,6 +55,7 @@ private:
     void UpdateColorControls(bool hasTag);
     void ClearRecent();
     void Ok();
+    void StoreSpeedsAndSounds();
 
     Engine& engine_;
     // The working copies.

@@ -52,7 +52,11 @@ void DrawIconsOfOpenGroups(QTreeWidget* tree, const std::function<QIcon(int)>& i
     }
 }
 
-QVariant TagOf(const QTreeWidgetItem* item) { return item ? item->data(0, kTag) : QVariant(); }
+/// The number of the chosen item; none for a group. What has only got the focus isn't chosen.
+QVariant ChosenTag(const QTreeWidget* tree) {
+    const QList<QTreeWidgetItem*> chosen = tree->selectedItems();
+    return chosen.isEmpty() ? QVariant() : chosen.first()->data(0, kTag);
+}
 
 QTreeWidgetItem* Root(QTreeWidget* tree, const QString& text) {
     tree->setHeaderHidden(true);
@@ -69,7 +73,8 @@ QWidget* CustomizeDialog::MakeBackground() {
     chkFade_->setChecked(background_.fade);
     UpdateColorControls(true);
     PaintPreviews();
-    connect(tvBGround_, &QTreeWidget::currentItemChanged, this, &CustomizeDialog::ChooseBackground);
+    connect(tvBGround_, &QTreeWidget::itemSelectionChanged, this,
+            &CustomizeDialog::ChooseBackground);
     connect(chkFade_, &QCheckBox::toggled, this, [this](bool on) {
         background_.fade = on;
         PaintPreviews();
@@ -117,7 +122,8 @@ void CustomizeDialog::UpdateColorControls(bool hasTag) {
 }
 
 void CustomizeDialog::ChooseBackground() {
-    const QVariant tag = TagOf(tvBGround_->currentItem());
+    if (tvBGround_->selectedItems().isEmpty()) return;
+    const QVariant tag = ChosenTag(tvBGround_);
     if (tag.isValid()) {
         background_.bgIndex = tag.toInt();
         PaintPreviews();
@@ -128,7 +134,7 @@ void CustomizeDialog::ChooseBackground() {
 QWidget* CustomizeDialog::MakeDecks() {
     FillDecks();
     picDeckBack_->ShowDeck(deck_);
-    connect(tvDeck_, &QTreeWidget::currentItemChanged, this, &CustomizeDialog::ChooseDeck);
+    connect(tvDeck_, &QTreeWidget::itemSelectionChanged, this, &CustomizeDialog::ChooseDeck);
     auto* page = new QWidget;
     auto* all = new QHBoxLayout(page);
     all->addWidget(tvDeck_, 1);
@@ -143,7 +149,7 @@ void CustomizeDialog::FillDecks() {
 }
 
 void CustomizeDialog::ChooseDeck() {
-    const QVariant tag = TagOf(tvDeck_->currentItem());
+    const QVariant tag = ChosenTag(tvDeck_);
     if (!tag.isValid()) return;
     deck_ = tag.toInt();
     picDeckBack_->ShowDeck(deck_);

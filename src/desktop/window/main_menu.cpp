@@ -156,22 +156,22 @@ void MainMenu::BuildHelp() {
 }
 
 void MainMenu::UpdateMenus() {
-    const MenuMarks marks = engine_.commands().UpdateMenus();
-    file_[FileItem::Restart]->setEnabled(marks.Restart);
-    file_[FileItem::Close]->setEnabled(marks.Close);
-    fav_[FavItem::Add]->setEnabled(marks.AddFavorite);
-    tools_[ToolsItem::History]->setEnabled(marks.History);
-    game_[GameItem::Undo]->setEnabled(marks.Undo);
-    game_[GameItem::Redo]->setEnabled(marks.Redo);
-    game_[GameItem::Autoplay]->setEnabled(marks.Autoplay);
-    game_[GameItem::Autoplay]->setChecked(marks.AutoplayChecked);
-    game_[GameItem::UndoAll]->setEnabled(marks.UndoAll);
-    game_[GameItem::RedoAll]->setEnabled(marks.RedoAll);
-    game_[GameItem::Toolbar]->setChecked(marks.ToolbarChecked);
-    replay_[ReplayItem::Forward]->setEnabled(marks.Forward);
-    replay_[ReplayItem::Back]->setEnabled(marks.Back);
-    replay_[ReplayItem::All]->setEnabled(marks.ReplayAll);
-    replay_[ReplayItem::Stop]->setEnabled(marks.Stop);
+    marks_ = engine_.commands().UpdateMenus();
+    file_[FileItem::Restart]->setEnabled(marks_.Restart);
+    file_[FileItem::Close]->setEnabled(marks_.Close);
+    fav_[FavItem::Add]->setEnabled(marks_.AddFavorite);
+    tools_[ToolsItem::History]->setEnabled(marks_.History);
+    game_[GameItem::Undo]->setEnabled(marks_.Undo);
+    game_[GameItem::Redo]->setEnabled(marks_.Redo);
+    game_[GameItem::Autoplay]->setEnabled(marks_.Autoplay);
+    game_[GameItem::Autoplay]->setChecked(marks_.AutoplayChecked);
+    game_[GameItem::UndoAll]->setEnabled(marks_.UndoAll);
+    game_[GameItem::RedoAll]->setEnabled(marks_.RedoAll);
+    game_[GameItem::Toolbar]->setChecked(marks_.ToolbarChecked);
+    replay_[ReplayItem::Forward]->setEnabled(marks_.Forward);
+    replay_[ReplayItem::Back]->setEnabled(marks_.Back);
+    replay_[ReplayItem::All]->setEnabled(marks_.ReplayAll);
+    replay_[ReplayItem::Stop]->setEnabled(marks_.Stop);
     UpdateRecent();
 }
 

@@ -53,6 +53,7 @@ public:
 
     /// Copies every mark and caption that the engine works out from its state.
     void UpdateMenus();
+    MenuMarks marks_;
 
     QAction* mFile(FileItem item) const { return file_[item]; }
     QAction* mGame(GameItem item) const { return game_[item]; }
@@ -96,6 +97,7 @@ private:
     MenuItems<HelpItem> help_;
     std::array<QAction*, kMaxRecent + 1> recent_{};
     CounterLabel* counters_;
+    MenuMarks marks_;
 };
 
 }  // namespace varnello

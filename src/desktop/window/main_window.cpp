@@ -110,7 +110,8 @@ void MainWindow::OnMainTimer() {
 void MainWindow::ReplayTick(void (Replay::*tick)()) {
     if (motion_.Showing()) {
         waitingTick_ = tick;
-        return;
+        engine_->replay().TickBegins();
+        return Refresh();
     }
     (engine_->replay().*tick)();
     Refresh();
@@ -130,6 +131,7 @@ void MainWindow::AwaitFinish() {
 }
 
 void MainWindow::Settle() {
+    waitingTick_ = nullptr;  // the timer ticks again, unless this is what ends the replay
     motion_.Finish();
     if (breath_.isActive()) breath_.start(0);
 }

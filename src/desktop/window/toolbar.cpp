@@ -20,7 +20,7 @@ QFrame* Separator(QWidget* parent) {
 
 }  // namespace
 
-Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent) {
+Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent), menu_(menu) {
     setAutoFillBackground(true);
     auto* strip = new QHBoxLayout(this);
     strip->setContentsMargins(2, 0, 2, 0);
@@ -66,7 +66,7 @@ void Toolbar::UpdateToolbar() {
     for (std::size_t i = 1; i < buttons_.size(); ++i) {
         if (buttons_[i]) buttons_[i]->setEnabled(items_[i]->isEnabled());
     }
-    Button(5)->setChecked(items_[5]->isChecked());
+    Button(5)->setChecked(menu_.Marks().AutoplayPressed);
 }
 
 }  // namespace varnello

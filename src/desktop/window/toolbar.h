@@ -21,6 +21,7 @@ public:
     QToolButton* Button(int index) const { return buttons_.at(static_cast<std::size_t>(index)); }
 
 private:
+    const MainMenu& menu_;
     std::array<QToolButton*, 17> buttons_{};
     std::array<QAction*, 17> items_{};
 };

@@ -12,7 +12,7 @@ MenuMarks Commands::UpdateMenus() const {
                     .UndoPossible = !data.GameWon && field_.trans.UndoPossible(),
                     .RedoPossible = !data.GameWon && field_.trans.RedoPossible(),
                     .DisAutoPlay = field_.games.DisAutoPlay(),
-                    .Autoplay = data.Get(keys::Autoplay) != 0,
+                    .Autoplay = data.Get(keys::Autoplay),
                     .ShowToolbar = data.Get(keys::ShowToolbar) != 0});
 }
 

@@ -27,7 +27,7 @@ struct MenuState {
     bool UndoPossible = false;
     bool RedoPossible = false;
     bool DisAutoPlay = false;
-    bool Autoplay = false;
+    int Autoplay = 0;  ///< the setting
     bool ShowToolbar = false;
 };
 
@@ -42,9 +42,9 @@ struct MenuMarks {
     bool Redo = false;
     bool Autoplay = false;
     bool AutoplayChecked = false;
+    bool AutoplayPressed = false;  ///< the button
     bool UndoAll = false;
     bool RedoAll = false;
-    bool Toolbar = true;
     bool ToolbarChecked = false;
     bool Forward = false;
     bool Back = false;

@@ -20,7 +20,7 @@ void Replay::End() {
 void Replay::ForwardTick() {
     if (!field_.data.Playing()) return;
     backwardOn_ = false;
-    stopEnabled_ = true;
+    TickBegins();
     int speed = field_.data.Get(keys::ReplaySpeed);
     if (!field_.trans.Redo(speed)) End();
 }
@@ -28,7 +28,7 @@ void Replay::ForwardTick() {
 void Replay::BackwardTick() {
     if (!field_.data.Playing()) return;
     forwardOn_ = false;
-    stopEnabled_ = true;
+    TickBegins();
     int speed = field_.data.Get(keys::ReplaySpeed);
     if (!field_.trans.Undo(speed)) End();
 }

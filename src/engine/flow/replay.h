@@ -18,6 +18,8 @@ public:
     /// Ends the replay whatever it does.
     void End();
 
+    /// A tick is due: from now on a person can stop the replay. Its step may still have to wait.
+    void TickBegins() { stopEnabled_ = true; }
     /// `tmrForward`: one step of a forward replay. Nothing without a running game.
     void ForwardTick();
     /// `tmrBackward`: one step of a backward replay.
