@@ -84,8 +84,7 @@ void PrintMarks(std::ostream& out, const Engine& engine) {
         << " mGame7=" << marks.RedoAll << " mReplay1=" << marks.Forward
         << " mReplay2=" << marks.Back << " mReplay4=" << marks.ReplayAll
         << " mReplay6=" << marks.Stop << " mGame4=" << marks.Autoplay << '/'
-        << marks.AutoplayChecked << " mGame9=" << marks.Toolbar << '/' << marks.ToolbarChecked
-        << '\n';
+        << marks.AutoplayChecked << " mGame9=1/" << marks.ToolbarChecked << '\n';
 }
 
 void PrintRecent(std::ostream& out, const Engine& engine) {

@@ -10,12 +10,6 @@
 
 namespace varnello {
 
-/// A field of a line: its text without quotes.
-struct Field {
-    std::string_view text;
-    bool quoted = false;
-};
-
 /// Takes the fields of a line from left to right, as views into it. A quoted field begins with a
 /// double quote and runs to the next one; there is no escape. Nothing may stand between a field and
 /// its comma. Each taker is false, and what was taken then means nothing, when the line goes on in
