@@ -13,15 +13,14 @@ int ReportModel::rowCount(const QModelIndex& parent) const {
 }
 
 int ReportModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+    return parent.isValid() ? 0 : static_cast<int>(headings_.size());
 }
 
 QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
-    const Column& column = ColumnAt(section);
-    if (role == Qt::DisplayRole) return ToQt(column.Title);
+    if (role == Qt::DisplayRole) return headings_.at(section).title;
     if (role == Qt::TextAlignmentRole) {
-        const bool right = column.Kind == ColumnKind::Value;
+        const bool right = KindOf(section) == ColumnKind::Value;
         return QVariant(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
     }
     return {};
@@ -51,6 +50,13 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
             if (const auto colour = ColourOf(row)) return *colour;
             return {};
         default: return {};
+    }
+}
+
+void ReportModel::SetColumns(const std::vector<Column>& columns) {
+    headings_.clear();
+    for (const Column& column : columns) {
+        headings_ << Heading{ToQt(column.Title), column.Kind};
     }
 }
 
@@ -102,9 +108,9 @@ void RowsModel::SetRows(std::vector<ReportRow> rows) {
     Reset([&] { rows_ = std::move(rows); });
 }
 
-void RowsModel::SetRows(std::vector<Column> columns, std::vector<ReportRow> rows) {
+void RowsModel::SetRows(const std::vector<Column>& columns, std::vector<ReportRow> rows) {
     Reset([&] {
-        SetColumns(std::move(columns));
+        SetColumns(columns);
         rows_ = std::move(rows);
     });
 }
@@ -136,7 +142,7 @@ QStringList RowsModel::WidestTexts(int column) const {
 }
 
 std::vector<double> RowsModel::SortValues(int column) const {
-    if (ColumnAt(column).Kind == ColumnKind::Text) return AlphabetOf(WidestTexts(column));
+    if (KindOf(column) == ColumnKind::Text) return AlphabetOf(WidestTexts(column));
     std::vector<double> values;
     for (const ReportRow& row : rows_) {
         values.push_back(row[static_cast<std::size_t>(column)].Value);

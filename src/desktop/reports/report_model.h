@@ -18,8 +18,10 @@ class ReportModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    explicit ReportModel(std::vector<Column> columns, QObject* parent = nullptr)
-        : QAbstractTableModel(parent), columns_(std::move(columns)) {}
+    explicit ReportModel(const std::vector<Column>& columns, QObject* parent = nullptr)
+        : QAbstractTableModel(parent) {
+        SetColumns(columns);
+    }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -47,15 +49,17 @@ protected:
     virtual std::optional<QColor> ColourOf(int /*row*/) const { return {}; }
     /// All rows have changed; `change` makes them so.
     void Reset(const std::function<void()>& change);
-    void SetColumns(std::vector<Column> columns) { columns_ = std::move(columns); }
-    const Column& ColumnAt(int column) const {
-        return columns_.at(static_cast<std::size_t>(column));
-    }
+    void SetColumns(const std::vector<Column>& columns);
+    ColumnKind KindOf(int column) const { return headings_.at(column).kind; }
 
 private:
+    struct Heading {
+        QString title;
+        ColumnKind kind;
+    };
     void Order();
 
-    std::vector<Column> columns_;
+    QList<Heading> headings_;
     std::function<QIcon(int row)> icons_;
     int boldColumn_ = -1;
     int sortColumn_ = -1;
@@ -77,7 +81,7 @@ public:
 
     void SetRows(std::vector<ReportRow> rows);
     /// The same with other columns.
-    void SetRows(std::vector<Column> columns, std::vector<ReportRow> rows);
+    void SetRows(const std::vector<Column>& columns, std::vector<ReportRow> rows);
     /// Replaces the cells of a row that stays where it is; `row` from 0.
     void UpdateRow(int row, const ReportRow& cells, const std::vector<std::size_t>& columns);
     /// A row in another colour, from 0; -1 for none.

@@ -72,6 +72,7 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
 
 MainWindow::~MainWindow() {
     QApplication::instance()->removeEventFilter(this);
+    help_.reset();  // it stands beside the table
     delete table_;  // before what it shows
 }
 
