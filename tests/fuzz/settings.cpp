@@ -62,7 +62,6 @@ void Play(Engine& engine) {
     engine.commands().Undo();
     engine.commands().Redo();
     for (std::int16_t i = 1; i <= kMaxRecent; ++i) engine.commands().RecentGame(i);
-    Require(engine.commands().UpdateMenus().Toolbar, "no toolbar item");
     Require(engine.commands().UpdateRecent()[0].starts_with("&1 "), "the newest game");
     if (engine.players().MayAddPlayer()) engine.players().EnterPlayer("", "Ada");
     engine.players().EnterPlayer(engine.data().GetPlayer(1), "Grace");

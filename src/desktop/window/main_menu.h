@@ -53,7 +53,7 @@ public:
 
     /// Copies every mark and caption that the engine works out from its state.
     void UpdateMenus();
-    MenuMarks marks_;
+    const MenuMarks& Marks() const { return marks_; }
 
     QAction* mFile(FileItem item) const { return file_[item]; }
     QAction* mGame(GameItem item) const { return game_[item]; }
