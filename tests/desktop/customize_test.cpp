@@ -65,8 +65,8 @@ private Q_SLOTS:
         WindowFixture fixture;
         cData& data = fixture.engine().data();
         const std::pair<NumberKey, std::int16_t> odd[] = {
-            {keys::CardSpeed, 70},   {keys::ReplaySpeed, -4}, {keys::RangeIndex, 99},
-            {keys::BGIndex, 1021},   {keys::Fade, 1},         {keys::DeckIndex, 777},
+            {keys::CardSpeed, 70},    {keys::ReplaySpeed, -4}, {keys::RangeIndex, 99},
+            {keys::BGIndex, 1021},    {keys::Fade, 1},         {keys::DeckIndex, 777},
             {SwitchOf(Sound::Win), 5}};
         for (const auto& [key, value] : odd) data.Set(key, value);
         CustomizeDialog dialog(fixture.engine(), &fixture.window);

@@ -145,12 +145,11 @@ private Q_SLOTS:
         fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
         const MainMenu& menu = fixture.window.menu();
         int lists = 0;
-        for (QAction* item :
-             {menu.mStat(StatItem::Game), menu.mStat(StatItem::Session),
-              menu.mStat(StatItem::HighScore), menu.mStat(StatItem::Log),
-              menu.mTools(ToolsItem::History), menu.mTools(ToolsItem::Players),
-              menu.mTools(ToolsItem::Customize), menu.mFav(FavItem::Organize),
-              menu.mFav(FavItem::Play), menu.mFile(FileItem::Number)}) {
+        for (QAction* item : {menu.mStat(StatItem::Game), menu.mStat(StatItem::Session),
+                              menu.mStat(StatItem::HighScore), menu.mStat(StatItem::Log),
+                              menu.mTools(ToolsItem::History), menu.mTools(ToolsItem::Players),
+                              menu.mTools(ToolsItem::Customize), menu.mFav(FavItem::Organize),
+                              menu.mFav(FavItem::Play), menu.mFile(FileItem::Number)}) {
             WhenOpen<QDialog>([&](QDialog& dialog) {
                 for (auto* list : dialog.findChildren<QAbstractItemView*>()) {
                     if (!list->model()) continue;

@@ -73,8 +73,7 @@ TEST_F(Counters, TimeDoesntJumpWithTheWallClock) {
     EXPECT_EQ(there.counters().ElapsedTime(), 600);
     there.counters().TimeTick();
     there.commands().CloseGame();
-    EXPECT_EQ(ReadFile(ScoreFile()),
-              "\"3/29/2026 3:05:00 AM\",\"Freecell\",1,600,0,0,0\r\n");
+    EXPECT_EQ(ReadFile(ScoreFile()), "\"3/29/2026 3:05:00 AM\",\"Freecell\",1,600,0,0,0\r\n");
 }
 
 TEST_F(Counters, RedealSlotShowsWhetherCardsAreLeft) {

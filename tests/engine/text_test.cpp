@@ -79,9 +79,9 @@ TEST(Dates, HaveOneForm) {
 
 TEST(Dates, DifferInSecondsAcrossMonthsAndLeapDays) {
     EXPECT_EQ(SecondsSinceEpoch({1970, 1, 1, 0, 0, 0}), 0);
-    EXPECT_EQ(SecondsSinceEpoch({2024, 3, 1, 0, 0, 0}) -
-                  SecondsSinceEpoch({2024, 2, 28, 23, 59, 59}),
-              86401);
+    EXPECT_EQ(
+        SecondsSinceEpoch({2024, 3, 1, 0, 0, 0}) - SecondsSinceEpoch({2024, 2, 28, 23, 59, 59}),
+        86401);
 }
 
 TEST(Durations, CountHoursOnPastTheDay) {

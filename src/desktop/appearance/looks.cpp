@@ -34,9 +34,8 @@ const QList<LookGroup>& DeckGroups() {
 
 bool HasDeck(int deckIndex) {
     const QList<LookGroup>& groups = DeckGroups();
-    return std::any_of(groups.begin(), groups.end(), [&](const LookGroup& group) {
-        return group.ids.contains(deckIndex);
-    });
+    return std::any_of(groups.begin(), groups.end(),
+                       [&](const LookGroup& group) { return group.ids.contains(deckIndex); });
 }
 
 }  // namespace varnello

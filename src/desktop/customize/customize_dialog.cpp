@@ -124,7 +124,8 @@ void CustomizeDialog::StoreSpeedsAndSounds() {
     }
     for (const SoundRow& row : kSounds) {
         const bool on = lvSound_->item(static_cast<int>(row.Event))->checkState() == Qt::Checked;
-        if (on != data.SoundOn(row.Event)) data.Set(SwitchOf(row.Event), on ? kTrue : std::int16_t{0});
+        if (on != data.SoundOn(row.Event))
+            data.Set(SwitchOf(row.Event), on ? kTrue : std::int16_t{0});
     }
 }
 

@@ -52,8 +52,8 @@ bool SameCard(const KesCard& a, const KesCard& b) {
     const bool closed = a.FaceMode == FaceMode::Closed;
     const bool sameValue = closed || (a.Suit == b.Suit && a.Num == b.Num);
     const bool sameLook = closed || a.Selected == b.Selected;
-    return a.FaceMode == b.FaceMode && sameValue && sameLook && a.Left == b.Left && a.Top == b.Top &&
-           a.Height == b.Height;
+    return a.FaceMode == b.FaceMode && sameValue && sameLook && a.Left == b.Left &&
+           a.Top == b.Top && a.Height == b.Height;
 }
 
 bool SameSlot(const KesEmpty& a, const KesEmpty& b) {
