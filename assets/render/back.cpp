@@ -20,11 +20,15 @@ struct Group {
 
 const std::vector<Group>& Groups() {
     static const std::vector<Group> groups{
-        {"Flowers", {{501, DrawDaisies}, {502, DrawRoses}, {503, DrawTulips}}},
-        {"Garden", {{511, DrawTrellis}, {512, DrawHedge}}},
-        {"Geometry", {{521, DrawInterlacedCircles}, {522, DrawStarLattice}, {523, DrawWeave}}},
-        {"Misc", {{531, DrawDiagonalLattice}, {532, DrawSunburst}, {533, DrawFishScales}}},
-        {"Nature",
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Flowers"),
+         {{501, DrawDaisies}, {502, DrawRoses}, {503, DrawTulips}}},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Garden"),
+         {{511, DrawTrellis}, {512, DrawHedge}}},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Geometry"),
+         {{521, DrawInterlacedCircles}, {522, DrawStarLattice}, {523, DrawWeave}}},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Misc"),
+         {{531, DrawDiagonalLattice}, {532, DrawSunburst}, {533, DrawFishScales}}},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Nature"),
          {{541, DrawWaves}, {542, DrawLeaves}, {543, DrawFeathers}, {544, DrawNightHills}}},
     };
     return groups;

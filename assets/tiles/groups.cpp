@@ -1,12 +1,19 @@
+#include <QtGlobal>
+
 #include "tile.h"
 
 namespace varnello::tiles {
 
 const std::vector<TileGroup>& TileGroups() {
     static const std::vector<TileGroup> groups{
-        {"Bricks", BrickTiles()}, {"Marbles", MarbleTiles()}, {"Paper", PaperTiles()},
-        {"Rocks", RockTiles()},   {"Stars", StarTiles()},     {"Surfaces", SurfaceTiles()},
-        {"Water", WaterTiles()},  {"Wood", WoodTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Bricks"), BrickTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Marbles"), MarbleTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Paper"), PaperTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Rocks"), RockTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Stars"), StarTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Surfaces"), SurfaceTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Water"), WaterTiles()},
+        {QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Wood"), WoodTiles()},
     };
     return groups;
 }

@@ -13,10 +13,14 @@
 #include "desktop/platform/sounds.h"
 #include "desktop/platform/system.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "desktop/window/main_window.h"
 #include "desktop/window/splash.h"
 
 namespace {
+
+/// Many of these texts are told where there is no application that could translate them.
+QString Translated(const char* english) { return varnello::Translated("Start", english); }
 
 QtMessageHandler usualHandler = nullptr;
 std::unique_ptr<varnello::MainWindow>* running = nullptr;  ///< while the event loop runs
@@ -37,34 +41,39 @@ void BeforeScreen(QtMsgType type, const QMessageLogContext&, const QString& text
     const bool display = qEnvironmentVariableIsSet("DISPLAY") ||
                          qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
                          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    std::fputs(display ? "Varnello can't start: the toolkit can't use the display. It says:\n"
-                       : "Varnello can't start: there is no graphical display. The toolkit says:\n",
-               stderr);
-    std::fputs(reasons.c_str(), stderr);
+    const QString why = Translated(
+        display ? QT_TRANSLATE_NOOP(
+                      "Start", "Varnello can't start: the toolkit can't use the display. It says:")
+                : QT_TRANSLATE_NOOP("Start",
+                                    "Varnello can't start: there is no graphical display. The "
+                                    "toolkit says:"));
+    std::fprintf(stderr, "%s\n%s", qPrintable(why), reasons.c_str());
     std::_Exit(1);
 }
 
 /// What the toolkit has left of the command line is nothing that anybody knows.
 bool RefuseUnknown(int argc, char** argv) {
     if (argc < 2) return false;
-    std::fprintf(stderr, "Varnello doesn't know \"%s\"; see varnello --help.\n", argv[1]);
+    const QString refusal = Translated(
+        QT_TRANSLATE_NOOP("Start", "Varnello doesn't know \"%1\"; see varnello --help."));
+    std::fprintf(stderr, "%s\n", qPrintable(refusal.arg(QString::fromLocal8Bit(argv[1]))));
     return true;
 }
 
 /// Answers what needs no display; whether it did.
 bool AnswerInText(const std::string& question) {
-    std::string text(varnello::kProductName);
+    QString text;
     if (question == "--version") {
-        text.append(" ").append(varnello::kVersion);
+        text = varnello::ToQt(varnello::kProductName) + ' ' + varnello::ToQt(varnello::kVersion);
     } else if (question == "--help") {
-        text.append(
-            " plays patience card games.\n\n"
-            "usage: varnello [toolkit option...]\n"
-            "       varnello --help | --version");
+        text = Translated(QT_TRANSLATE_NOOP("Start",
+                                            "Varnello plays patience card games.\n\n"
+                                            "usage: varnello [toolkit option...]\n"
+                                            "       varnello --help | --version"));
     } else {
         return false;
     }
-    std::puts(text.c_str());
+    std::puts(qPrintable(text));
     return true;
 }
 
@@ -72,6 +81,7 @@ bool AnswerInText(const std::string& question) {
 
 int main(int argc, char** argv) {
     using namespace varnello;
+    LoadTranslations();
     if (argc == 2 && AnswerInText(argv[1])) return 0;
     usualHandler = qInstallMessageHandler(BeforeScreen);
     QApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -80,6 +90,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new varnello::PlainButtons);
     if (RefuseUnknown(argc, argv)) return 2;
     qInstallMessageHandler(AfterScreen);
+    InstallTranslations();
     QApplication::setApplicationName(ToQt(kProductName));
     QApplication::setApplicationVersion(ToQt(kVersion));
     QApplication::setWindowIcon(ProgramIcon());

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/common/calendar.h"
+#include "engine/common/phrase.h"
 #include "engine/definitions/codes.h"
 #include "engine/definitions/sounds.h"
 
@@ -49,8 +50,10 @@ public:
     virtual ~DateForms() = default;
     virtual std::string Date(const DateTime& moment) const { return ShortDateText(moment); }
     virtual std::string DateAndTime(const DateTime& moment) const { return DateText(moment); }
-    /// A month's short name; `month` from 1 to 12.
-    virtual std::string Month(int month) const { return std::string(MonthName(month)); }
+    /// Days, months and years in a list of them: "Nov 18", "Nov 26" and "2026".
+    virtual std::string DayOfYear(const DateTime& moment) const { return DayText(moment); }
+    virtual std::string MonthOfYear(const DateTime& moment) const { return MonthText(moment); }
+    virtual std::string Year(const DateTime& moment) const { return std::to_string(moment.year); }
 };
 
 inline const DateForms kFileDateForms;
@@ -107,11 +110,11 @@ class Messages {
 public:
     virtual ~Messages() = default;
     /// Information. Shown when the command that told it has returned.
-    virtual void Inform(const std::string& text) = 0;
+    virtual void Inform(const Phrase& text) = 0;
     /// The same with a stop sign.
-    virtual void Refuse(const std::string& text) = 0;
+    virtual void Refuse(const Phrase& text) = 0;
     /// The same with the sign of a warning: something was kept or lost that shouldn't have been.
-    virtual void Warn(const std::string& text) = 0;
+    virtual void Warn(const Phrase& text) = 0;
 };
 
 struct Desktop {

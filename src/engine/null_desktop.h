@@ -37,9 +37,9 @@ public:
 
 class NoMessages : public Messages {
 public:
-    void Inform(const std::string&) override {}
-    void Refuse(const std::string&) override {}
-    void Warn(const std::string&) override {}
+    void Inform(const Phrase&) override {}
+    void Refuse(const Phrase&) override {}
+    void Warn(const Phrase&) override {}
 };
 
 class StillClock : public Clock {

@@ -115,8 +115,8 @@ void PrintPlayers(std::ostream& out, const Engine& engine) {
 void PrintHistory(std::ostream& out, const Engine& engine) {
     if (!engine.data().GameRunning) return;
     for (const HistoryRow& row : HistoryOf(engine.trans())) {
-        out << "history: " << row.Number << '|' << row.Source << '|' << row.Destination << '|'
-            << row.Cards;
+        out << "history: " << row.Number << '|' << row.Source.English() << '|'
+            << row.Destination.English() << '|' << row.Cards;
         if (row.Mark == HistoryMark::Last) out << "|*";
         if (row.Mark == HistoryMark::Undone) out << "|-";
         out << '\n';

@@ -64,9 +64,11 @@ void PrintLogReport(std::ostream& out, const Engine& engine, std::string_view ke
 }
 
 void PrintSession(std::ostream& out, const Engine& engine) {
-    for (const std::string& label : SessionLabels(engine)) out << "session: " << label << '\n';
-    for (const std::string& label : GameLabelsOf(engine).InOrder()) {
-        out << "session: " << label << '\n';
+    for (const Phrase& label : SessionLabels(engine)) {
+        out << "session: " << label.English() << '\n';
+    }
+    for (const Phrase& label : GameLabelsOf(engine).InOrder()) {
+        out << "session: " << label.English() << '\n';
     }
     PrintRows(out, "row: ", SessionRows(engine, kSessionColumns));
 }
@@ -91,8 +93,8 @@ void ScriptedTable::Report(Words& words) {
 bool ScriptedTable::ReportSums(std::string_view what, Words& words) {
     if (what == "general") {
         words.End();
-        for (const std::string& line : GeneralLines(engine_.score().AllSummary())) {
-            out_ << "general: " << line << '\n';
+        for (const Phrase& line : GeneralLines(engine_.score().AllSummary())) {
+            out_ << "general: " << line.English() << '\n';
         }
     } else if (what == "games") {
         words.End();

@@ -17,8 +17,8 @@ void PrintedSounds::Play(Sound event) {
     if (on) out_ << "sound: " << RowOf(event).Name() << '\n';
 }
 
-void PrintedMessages::Inform(const std::string& text) {
-    std::string line = text;
+void PrintedMessages::Inform(const Phrase& text) {
+    std::string line = text.English();
     std::replace(line.begin(), line.end(), '\n', ' ');
     out_ << "message: " << line << '\n';
 }

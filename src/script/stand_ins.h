@@ -39,9 +39,9 @@ private:
 class PrintedMessages : public Messages {
 public:
     explicit PrintedMessages(std::ostream& out) : out_(out) {}
-    void Inform(const std::string& text) override;
-    void Refuse(const std::string& text) override { Inform(text); }
-    void Warn(const std::string& text) override { Inform(text); }
+    void Inform(const Phrase& text) override;
+    void Refuse(const Phrase& text) override { Inform(text); }
+    void Warn(const Phrase& text) override { Inform(text); }
 
 private:
     std::ostream& out_;

@@ -20,7 +20,10 @@ class Counters : public EngineTest {
 protected:
     std::string Shown() {
         const CounterCaptions shown = engine.counters().TimeTick();
-        return shown.mScore + '|' + shown.mTime + '|' + shown.mMoves;
+        const auto text = [](const std::optional<Phrase>& caption) {
+            return caption ? caption->English() : std::string();
+        };
+        return text(shown.mScore) + '|' + text(shown.mTime) + '|' + text(shown.mMoves);
     }
     void StartWithAMove() {
         engine.data().Set(keys::Autoplay, 0);

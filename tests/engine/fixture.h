@@ -110,6 +110,14 @@ struct TestTable {
     Engine engine{{store, clock, surface, sounds, messages, folder.Path() / "data"}};
 };
 
+/// Phrases as one text, with a bar after each.
+template <typename Phrases>
+std::string InEnglish(const Phrases& phrases) {
+    std::string text;
+    for (const Phrase& phrase : phrases) text += phrase.English() + '|';
+    return text;
+}
+
 class EngineTest : public ::testing::Test, protected TestTable {};
 
 /// A game of the thirteen hearts, each on a pile of its own: the smallest game that can be won.

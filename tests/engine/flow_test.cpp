@@ -171,9 +171,8 @@ TEST_F(Flow, WonDialogShowsTheStoredFigures) {
     const FinishFigures figures = engine.life().LoadFinish();
     EXPECT_EQ(Heard(), "sound: Win\n");
     EXPECT_EQ(figures.Game, "Hearts");
-    EXPECT_EQ(figures.Lines,
-              (std::array<std::string, 5>{" Game : 7", " Player : Player1", " Time : 1:02:05",
-                                          " Moves : 40", " Score : -5"}));
+    EXPECT_EQ(InEnglish(figures.Lines),
+              " Game : 7| Player : Player1| Time : 1:02:05| Moves : 40| Score : -5|");
     EXPECT_EQ(figures.Score, 0);
     EXPECT_EQ(figures.Moves, 40);
     EXPECT_EQ(figures.Time, 3725);

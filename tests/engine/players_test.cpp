@@ -37,9 +37,9 @@ TEST_F(Choosing, TakesNumbersStrictlyInsideTheRange) {
         data.Set(keys::RangeIndex, I16(c.range));
         EXPECT_EQ(engine.choosing().IsChoosable(c.text), c.accepted) << c.range << ": " << c.text;
     }
-    EXPECT_EQ(engine.choosing().RangeText(), "0 and 9");
+    EXPECT_EQ(engine.choosing().RangeText().English(), "0 and 9");
     data.Set(keys::RangeIndex, 3);
-    EXPECT_EQ(engine.choosing().RangeText(), "0 and 999");
+    EXPECT_EQ(engine.choosing().RangeText().English(), "0 and 999");
 }
 
 TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {

@@ -45,17 +45,16 @@ protected:
 
 TEST_F(Reports, GeneralFigures) {
     Write({Game(50, 100, 120)});
-    EXPECT_EQ(GeneralLines(engine.score().AllSummary()),
-              (std::vector<std::string>{
-                  "Games Played : 1", "Games Won : 1", "Games Lost : 0", "Total Moves : 100",
-                  "Total Score : 50", "Total Time : 0:02:00", "Moves Per Game : 100",
-                  "Score Per Game : 50", "Time Per Game : 0:02:00", "Games Per Hour : 30",
-                  "Moves Per Hour : 3000", "Score Per Hour : 1500", "Winning Percentage : 100%"}));
+    EXPECT_EQ(InEnglish(GeneralLines(engine.score().AllSummary())),
+              "Games Played : 1|Games Won : 1|Games Lost : 0|Total Moves : 100|Total Score : 50|"
+              "Total Time : 0:02:00|Moves Per Game : 100|Score Per Game : 50|"
+              "Time Per Game : 0:02:00|Games Per Hour : 30|Moves Per Hour : 3000|"
+              "Score Per Hour : 1500|Winning Percentage : 100%|");
     Write({Game(-1, 3, 2, 0), Game(0, 0, 3, 0)});
     const auto lines = GeneralLines(engine.score().AllSummary());
-    EXPECT_EQ(lines[7], "Score Per Game : 0") << "cut towards 0, without a sign";
-    EXPECT_EQ(lines[8], "Time Per Game : 0:00:02") << "2.5 seconds go to the even number";
-    EXPECT_EQ(GeneralLines({}).back(), "Winning Percentage : 0%");
+    EXPECT_EQ(lines[7].English(), "Score Per Game : 0") << "cut towards 0, without a sign";
+    EXPECT_EQ(lines[8].English(), "Time Per Game : 0:00:02") << "2.5 seconds go to the even number";
+    EXPECT_EQ(GeneralLines({}).back().English(), "Winning Percentage : 0%");
 }
 
 TEST_F(Reports, PercentagesOfGamesHaveDecimalsAndThoseOfPlayersDoNot) {
@@ -246,19 +245,21 @@ TEST_F(Reports, WinsInARowAndAPlaceAmongThem) {
     EXPECT_EQ(engine.score().PlayerStreak("Player1", "Avenue"), (Streak{0, 0}));
     ScoreRecord last = won(30);
     last.Player = "Player1";
-    EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last)), "Your 4th fastest of 4");
+    EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last))->English(),
+              "Your 4th fastest of 4");
     last.Time = 31;
-    EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last)), "") << "it isn't booked";
+    EXPECT_FALSE(PlaceText(OwnWinsOf(engine.score().List(), last))) << "it isn't booked";
     for (const auto& [place, text] : {std::pair{1, "Your fastest of 30"},
                                       {2, "Your 2nd fastest of 30"},
                                       {12, "Your 12th fastest of 30"},
                                       {23, "Your 23rd fastest of 30"}}) {
-        EXPECT_EQ(PlaceText({.Others = std::vector<ScoreRecord>(29), .Place = place}), text);
+        EXPECT_EQ(PlaceText({.Others = std::vector<ScoreRecord>(29), .Place = place})->English(),
+                  text);
     }
 }
 
 TEST_F(Reports, SessionShowsTheRunningGameLast) {
-    EXPECT_EQ(GameLabelsOf(engine).Started, "Game Started : ");
+    EXPECT_EQ(GameLabelsOf(engine).Started.English(), "Game Started : ");
     engine.data().Set(keys::Autoplay, 0);
     Start("Freecell", 5);
     engine.commands().CloseGame();
@@ -271,9 +272,11 @@ TEST_F(Reports, SessionShowsTheRunningGameLast) {
     EXPECT_EQ(Line(rows, 0), "Freecell|5|Player1|0:00:00|0|Lost|0|");
     EXPECT_EQ(Line(rows, 1), "Zodiac|012|Player1|0:01:30|0|Running|80|");
     EXPECT_EQ(Line(SessionRows(engine, kDetailColumns), 1), "2|0:01:30|0|80|");
-    EXPECT_EQ(SessionLabels(engine)[1], "Games Played : 1") << "the running game doesn't count";
+    EXPECT_EQ(SessionLabels(engine)[1].English(), "Games Played : 1")
+        << "the running game doesn't count";
     engine.commands().CloseGame();
-    EXPECT_EQ(GameLabelsOf(engine).Time, "Time Elapsed : 0:01:30") << "the last figures stay";
+    EXPECT_EQ(GameLabelsOf(engine).Time.English(), "Time Elapsed : 0:01:30")
+        << "the last figures stay";
 }
 
 TEST_F(Reports, OddFilesAreReadAsFarAsTheyGo) {

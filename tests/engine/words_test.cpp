@@ -61,7 +61,7 @@ struct Trial {
     std::set<char> suits;
     std::vector<PicID> tableau;  ///< in the order dealt
     const GameFact* fact = nullptr;
-    const RuleSentence* sentence = nullptr;
+    const Phrase* sentence = nullptr;
 
     bool Says(std::string_view words) const {
         return fact->English().find(words) != std::string::npos;
@@ -225,7 +225,7 @@ struct Trial {
         return LiftsPairs([this](const Pair& p) { return Allows(Words(), p, false, false); });
     }
     bool FoundationsBuild() const {
-        const RuleSentence& first = fact->Sentences.front();
+        const Phrase& first = fact->Sentences.front();
         const auto order = std::get<std::string_view>(first.Words.at(0));
         const bool twoWays = first.English().starts_with("The first two");
         const bool round = Says("upwards");
@@ -603,7 +603,7 @@ private:
 void ExpectTrue(const GameRow& row, std::set<std::string_view>& said) {
     Trial trial(row);
     for (const GameFact& fact : Describe(row)) {
-        for (const RuleSentence& sentence : fact.Sentences) {
+        for (const Phrase& sentence : fact.Sentences) {
             trial.fact = &fact;
             trial.sentence = &sentence;
             said.insert(sentence.Text.Many);

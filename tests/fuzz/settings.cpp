@@ -31,7 +31,7 @@ void CheckNumbers(const Engine& engine, const SettingsStore& store) {
     }
     const double limit = engine.choosing().MaxGNo();
     Require(limit >= 0 && limit < 1e15, "the highest number");
-    Require(engine.choosing().RangeText().starts_with("0 and "), "the range's text");
+    Require(engine.choosing().RangeText().English().starts_with("0 and "), "the range's text");
     (void)engine.data().CustomColor();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "desktop/platform/words.h"
+
 namespace varnello {
 namespace {
 
@@ -15,7 +17,7 @@ QString RankName(int num) {
         case 10: return Names::tr("Jack");
         case 11: return Names::tr("Queen");
         case 12: return Names::tr("King");
-        default: return QString::number(num + 1);
+        default: return AsFigure(num + 1);
     }
 }
 
@@ -41,9 +43,9 @@ QString CardName(const KesCard& card) {
 
 QString PlaceName(Cell cell, int pile) {
     switch (cell) {
-        case Cell::Home: return Names::tr("Tableau %1").arg(pile + 1);
-        case Cell::Res: return Names::tr("Reserve %1").arg(pile + 1);
-        case Cell::Goal: return Names::tr("Foundation %1").arg(pile + 1);
+        case Cell::Home: return Names::tr("Tableau %1").arg(AsFigure(pile + 1));
+        case Cell::Res: return Names::tr("Reserve %1").arg(AsFigure(pile + 1));
+        case Cell::Goal: return Names::tr("Foundation %1").arg(AsFigure(pile + 1));
         case Cell::Waste: return Names::tr("Waste");
         case Cell::Stock: break;
     }
@@ -56,14 +58,13 @@ QString PileName(const cArray& array, const Table& table, Cell cell, int pile) {
     if (cards == 0) return Names::tr("%1, empty", "a pile").arg(place);
     const QString top = CardName(table.Card(array.GetTopPicID(cell, pile)));
     if (cards == 1) return Names::tr("%1, 1 card, %2", "a pile and its card").arg(place, top);
-    return Names::tr("%1, %n cards, top %2", "a pile and its top card", cards).arg(place, top);
+    return Names::tr("%1, %Ln cards, top %2", "a pile and its top card", cards).arg(place, top);
 }
 
 QString PlaceInPile(const cArray& array, const Place& place) {
     return Names::tr("%1, card %2 of %3", "a pile, from its bottom")
-        .arg(PlaceName(place.Cell, place.Pile))
-        .arg(place.Pos + 1)
-        .arg(array.GetTop(place.Cell, place.Pile) + 1);
+        .arg(PlaceName(place.Cell, place.Pile), AsFigure(place.Pos + 1),
+             AsFigure(array.GetTop(place.Cell, place.Pile) + 1));
 }
 
 }  // namespace varnello

@@ -89,9 +89,9 @@ QString TableVoice::ToldOfMoves(const Board& was, const Board& now) const {
     QStringList told;
     const bool back = now.undoable < was.undoable;
     if (back && moved > 1) {
-        told << tr("%n cards were taken back.", nullptr, moved);
+        told << tr("%Ln cards were taken back.", nullptr, moved);
     } else if (moved - up > 1 && runs.size() > (up > 0 ? 2U : 1U)) {
-        told << tr("%n cards moved.", nullptr, moved - up);
+        told << tr("%Ln cards moved.", nullptr, moved - up);
     }
     const bool summed = !told.isEmpty();
     for (const auto& [place, run] : runs) {
@@ -104,15 +104,15 @@ QString TableVoice::ToldOfMoves(const Board& was, const Board& now) const {
         } else if (!back && run.cards == 1) {
             told << tr("%1 moved to %2.").arg(nameOf(run.lowest), target);
         } else if (!back) {
-            told << tr("%1 and %n more moved to %2.", "a card, those on it, a pile", run.cards - 1)
+            told << tr("%1 and %Ln more moved to %2.", "a card, those on it, a pile", run.cards - 1)
                         .arg(nameOf(run.lowest), target);
         }
     }
-    if (!back && up > 1) told << tr("%n cards went up to the foundations.", nullptr, up);
+    if (!back && up > 1) told << tr("%Ln cards went up to the foundations.", nullptr, up);
     for (const PicID id : opened) {
         if (opened.size() <= 2) told << tr("%1 is uncovered.").arg(nameOf(id));
     }
-    if (opened.size() > 2) told << tr("%n cards are uncovered.", nullptr, int(opened.size()));
+    if (opened.size() > 2) told << tr("%Ln cards are uncovered.", nullptr, int(opened.size()));
     return told.join(' ');
 }
 

@@ -16,7 +16,7 @@ inline constexpr int kFirstColour = kCustomBackground + 1;
 inline constexpr int kOfferedColours = 20;
 
 struct NamedColour {
-    QString name;
+    const char* name;  ///< in English; the dialog that offers it translates it
     QColor colour;
 };
 

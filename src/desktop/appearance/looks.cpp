@@ -11,7 +11,7 @@ const QList<LookGroup>& TileGroups() {
     static const QList<LookGroup> groups = [] {
         QList<LookGroup> all;
         for (const tiles::TileGroup& group : tiles::TileGroups()) {
-            LookGroup look{.name = QString::fromLatin1(group.name), .ids = {}};
+            LookGroup look{.name = group.name, .ids = {}};
             for (const tiles::Tile& tile : group.tiles) look.ids << tile.id;
             all << look;
         }
@@ -24,8 +24,7 @@ const QList<LookGroup>& DeckGroups() {
     static const QList<LookGroup> groups = [] {
         QList<LookGroup> all;
         for (const render::BackGroup& group : render::BackGroups()) {
-            all << LookGroup{QString::fromLatin1(group.name),
-                             {group.numbers.begin(), group.numbers.end()}};
+            all << LookGroup{group.name, {group.numbers.begin(), group.numbers.end()}};
         }
         return all;
     }();

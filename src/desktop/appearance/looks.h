@@ -8,7 +8,7 @@ namespace varnello {
 /// A group of backgrounds or decks, as the trees of the customize dialog show them. The items are
 /// called by the group's name, " 0" and their place in it.
 struct LookGroup {
-    QString name;
+    const char* name;
     QList<int> ids;
 };
 

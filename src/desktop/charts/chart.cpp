@@ -9,8 +9,7 @@
 #include <cmath>
 
 #include "desktop/charts/colours.h"
-#include "desktop/platform/text.h"
-#include "engine/common/calendar.h"
+#include "desktop/platform/words.h"
 #include "engine/common/rounding.h"
 
 namespace varnello {
@@ -26,14 +25,14 @@ constexpr double kLimit = 1e15;    // up to which all whole numbers are exact
 
 QString NameOf(Series series) {
     switch (series) {
-        case Series::Score: return QStringLiteral("Score");
-        case Series::Moves: return QStringLiteral("Moves");
-        case Series::Time: return QStringLiteral("Time");
-        case Series::Played: return QStringLiteral("Played");
-        case Series::Won: return QStringLiteral("Won");
+        case Series::Score: return Chart::tr("Score");
+        case Series::Moves: return Chart::tr("Moves");
+        case Series::Time: return Chart::tr("Time");
+        case Series::Played: return Chart::tr("Played");
+        case Series::Won: return Chart::tr("Won");
         case Series::Lost: break;
     }
-    return QStringLiteral("Lost");
+    return Chart::tr("Lost");
 }
 
 Chart::Chart(const QString& name) {
@@ -53,17 +52,18 @@ void Chart::Show(ChartTable table) {
             if (!std::isnan(value)) blank_ = false;
         }
     }
-    setAccessibleDescription(blank_ ? QStringLiteral("Nothing played yet") : Figures());
+    setAccessibleDescription(blank_ ? tr("Nothing played yet") : Figures());
     update();
 }
 
 QString Chart::ValueText(Series series, double value) const {
-    if (series == Series::Time) return ToQt(FormatTime(RoundTo32(value)));
+    if (series == Series::Time) return Localized(PhraseWord(Duration{RoundTo32(value)}));
     return locale().toString(value, 'f', 0);
 }
 
 QString Chart::NamedValue(Series series, double value) const {
-    return NameOf(series) + QStringLiteral(" : ") + ValueText(series, value);
+    return tr("%1 : %2", "what is counted, its figure")
+        .arg(NameOf(series), ValueText(series, value));
 }
 
 QString Chart::ValuesText(std::size_t row, const QString& separator) const {

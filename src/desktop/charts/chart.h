@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QStringList>
 #include <QWidget>
@@ -26,6 +27,8 @@ struct ChartTable {
 /// A painted chart with tool tips that follows the palette, the font and the pixels of its window.
 /// It tells its figures as the accessible description.
 class Chart : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(Chart)
+
 public:
     /// `name` is what assistive tools call it.
     explicit Chart(const QString& name);

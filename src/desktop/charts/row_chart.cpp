@@ -5,6 +5,7 @@
 
 #include "desktop/charts/colours.h"
 #include "desktop/charts/marks.h"
+#include "desktop/platform/words.h"
 
 namespace varnello {
 namespace {
@@ -73,7 +74,7 @@ bool RowChart::HasValue(std::size_t row) const {
 QString RowChart::RowName(std::size_t row) const {
     QString name = Table().rowNames.value(static_cast<qsizetype>(row));
     if (!name.isEmpty()) return name;
-    return HasValue(row) ? QString::number(Table().firstRow + static_cast<int>(row)) : QString();
+    return HasValue(row) ? AsFigure(Table().firstRow + static_cast<int>(row)) : QString();
 }
 
 RowChart::Layout RowChart::LayOut(const QRectF& area) const {
@@ -240,7 +241,8 @@ QString RowChart::Figures() const {
     QStringList rows;
     for (std::size_t row = 0; row < Table().rows.size(); ++row) {
         if (!HasValue(row)) continue;
-        rows << RowName(row) + QStringLiteral(": ") + ValuesText(row, QStringLiteral(", "));
+        rows << Chart::tr("%1: %2", "a row of a chart, its figures")
+                    .arg(RowName(row), ValuesText(row, QStringLiteral(", ")));
     }
     return rows.join(QLatin1Char('\n'));
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "desktop/charts/colours.h"
+#include "desktop/platform/words.h"
 
 namespace varnello {
 namespace {
@@ -35,16 +36,17 @@ double ShareChart::Whole() const {
 QString ShareChart::PercentText(std::size_t series) const {
     const double percent = Whole() > 0 ? Part(series) * 100 / Whole() : 0;
     const int decimals = percent == std::floor(percent) ? 0 : 1;
-    return locale().toString(percent, 'f', decimals) + QLatin1Char('%');
+    return AsFigure(QString::number(percent, 'f', decimals) + QLatin1Char('%'));
 }
 
 QString ShareChart::LabelOf(std::size_t series) const {
-    return NameOf(Table().series[series]) + QStringLiteral(" : ") +
-           QString::number(Part(series), 'f', 0);
+    return Chart::tr("%1 : %2", "what is counted, its figure")
+        .arg(NameOf(Table().series[series]), AsFigure(QString::number(Part(series), 'f', 0)));
 }
 
 QString ShareChart::TextOf(std::size_t series) const {
-    return QStringLiteral("%1 (%2)").arg(LabelOf(series), PercentText(series));
+    return Chart::tr("%1 (%2)", "a figure, its part of the whole")
+        .arg(LabelOf(series), PercentText(series));
 }
 
 QRectF ShareChart::Ring(const QRectF& area) const {

@@ -96,7 +96,7 @@ QString TotalsChart::TipAt(const QPointF& at) const {
     const auto series = static_cast<std::size_t>(place);
     QString value = NamedValue(Table().series[series], Value(series));
     if (Table().rows.size() == 1) return value;
-    return value + QStringLiteral("\nThe thin lines are your other wins.");
+    return value + '\n' + Chart::tr("The thin lines are your other wins.");
 }
 
 QString TotalsChart::Figures() const { return ValuesText(0, QStringLiteral(", ")); }

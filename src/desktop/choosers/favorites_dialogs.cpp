@@ -34,7 +34,7 @@ void FillNumbers(QListWidget& list, const Favorites& favorites, const QString& g
 QListWidget* NumbersList() {
     auto* list = new QListWidget;
     list->setUniformItemSizes(true);
-    list->setAccessibleName(QStringLiteral("Game Number"));
+    list->setAccessibleName(OrganizeFavoritesDialog::tr("Game Number"));
     return list;
 }
 
@@ -45,15 +45,15 @@ PlayFavoriteDialog::PlayFavoriteDialog(Engine& engine, QWidget* parent)
       engine_(engine),
       imcGames_(new QComboBox),
       lvFav_(NumbersList()),
-      cmdPlay_(new QPushButton(QStringLiteral("Play"))) {
-    setWindowTitle(QStringLiteral("Play from Favorites"));
+      cmdPlay_(new QPushButton(tr("Play"))) {
+    setWindowTitle(tr("Play from Favorites"));
     engine_.favorites().OpenFav();
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
-    NamePurpose(*imcGames_, QStringLiteral("Game"));
+    NamePurpose(*imcGames_, tr("Game"));
 
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(cmdPlay_, QDialogButtonBox::AcceptRole);
-    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     auto* all = new QVBoxLayout(this);
     all->addWidget(imcGames_);
     all->addWidget(lvFav_);
@@ -87,11 +87,11 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
       engine_(engine),
       lvGames_(new QListWidget),
       lvFav_(NumbersList()),
-      cmdClear_(new QPushButton(QStringLiteral("Clear Favorites"))) {
-    setWindowTitle(QStringLiteral("Organize Favorites"));
+      cmdClear_(new QPushButton(tr("Clear Favorites"))) {
+    setWindowTitle(tr("Organize Favorites"));
     engine_.favorites().OpenFav();
     const cData& data = engine_.data();
-    lvGames_->setAccessibleName(QStringLiteral("Game"));
+    lvGames_->setAccessibleName(tr("Game"));
     lvGames_->setIconSize(kGameMarkSize);
     for (std::int16_t id = 1; id <= data.TotalGames(); ++id) {
         auto* item =
@@ -101,15 +101,15 @@ OrganizeFavoritesDialog::OrganizeFavoritesDialog(Engine& engine, QWidget* parent
 
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(cmdClear_, QDialogButtonBox::ResetRole);
-    auto* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    auto* close = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     // As wide as the longest name, beside a scroll bar.
     lvGames_->setMinimumWidth(lvGames_->sizeHintForColumn(0) + 2 * lvGames_->frameWidth() +
                               lvGames_->verticalScrollBar()->sizeHint().width());
     auto* left = new QVBoxLayout;
-    left->addWidget(new QLabel(QStringLiteral("Game")));
+    left->addWidget(new QLabel(tr("Game")));
     left->addWidget(lvGames_);
     auto* right = new QVBoxLayout;
-    right->addWidget(new QLabel(QStringLiteral("Game Number")));
+    right->addWidget(new QLabel(tr("Game Number")));
     right->addWidget(lvFav_);
     auto* lists = new QHBoxLayout;
     lists->addLayout(left);

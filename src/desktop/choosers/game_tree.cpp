@@ -11,8 +11,8 @@ GameTree::GameTree(const cData& data) {
     setHeaderHidden(true);
     setIconSize(kGameMarkSize);
     setUniformRowHeights(true);
-    setAccessibleName(QStringLiteral("Games"));
-    auto* root = new QTreeWidgetItem(this, {QStringLiteral("Games")});
+    setAccessibleName(tr("Games"));
+    auto* root = new QTreeWidgetItem(this, {tr("Games")});
     root->setIcon(0, SmallIcon(QStringLiteral("games")));
     const QString last = ToQt(data.LastGName());
     QTreeWidgetItem* selected = nullptr;

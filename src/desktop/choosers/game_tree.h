@@ -9,6 +9,8 @@ namespace varnello {
 /// All games below one root, which keys don't come to. One game is always current until a person
 /// clicks on the root.
 class GameTree : public QTreeWidget {
+    Q_OBJECT
+
 public:
     /// Opens on the last game played.
     explicit GameTree(const cData& data);

@@ -11,6 +11,7 @@
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_size.h"
+#include "desktop/platform/words.h"
 
 namespace varnello {
 namespace {
@@ -27,7 +28,7 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
       games_(new QComboBox),
       players_(new QComboBox),
       number_(new QLineEdit) {
-    setWindowTitle(QStringLiteral("Select a Game Number"));
+    setWindowTitle(tr("Select a Game Number"));
     FillGames(*games_, engine_.data(), engine_.data().CurGName());
     FillPlayers(*players_, engine_.data());
     number_->setText(ToQt(Proposal()));
@@ -36,16 +37,16 @@ NumberDialog::NumberDialog(Engine& engine, QWidget* parent)
         [this](const QString& game) { games_->setCurrentIndex(games_->findText(game)); }));
 
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&Game"), games_);
-    form->addRow(QStringLiteral("P&layer"), players_);
-    auto* name = new QLabel(QStringLiteral("Enter a Game Number between"));
-    auto* range = new QLabel(ToQt(engine_.choosing().RangeText()));
+    form->addRow(tr("&Game"), games_);
+    form->addRow(tr("P&layer"), players_);
+    auto* name = new QLabel(tr("Enter a Game Number between"));
+    auto* range = new QLabel(Localized(engine_.choosing().RangeText()));
     name->setBuddy(number_);
     number_->setAccessibleName(name->text() + ' ' + range->text());
 
     auto* buttons = new QDialogButtonBox;
-    auto* select = buttons->addButton(QStringLiteral("Select"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    auto* select = buttons->addButton(tr("Select"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     auto* all = new QVBoxLayout(this);
     all->addLayout(form);
     all->addSpacing(8);

@@ -22,22 +22,22 @@ constexpr int kNameWidth = 300;
 
 PlayersDialog::PlayersDialog(Engine& engine, QWidget* parent)
     : QDialog(parent), engine_(engine), lvPlayer_(new QListWidget) {
-    setWindowTitle(QStringLiteral("Players"));
-    lvPlayer_->setAccessibleName(QStringLiteral("Players"));
+    setWindowTitle(tr("Players"));
+    lvPlayer_->setAccessibleName(tr("Players"));
 
     auto* column = new QVBoxLayout;
-    const auto button = [&](const char* text, void (PlayersDialog::*act)()) {
-        auto* made = new QPushButton(QString::fromLatin1(text));
+    const auto button = [&](const QString& text, void (PlayersDialog::*act)()) {
+        auto* made = new QPushButton(text);
         connect(made, &QPushButton::clicked, this, act);
         column->addWidget(made);
         return made;
     };
-    button("New", &PlayersDialog::Add);
-    button("Edit", &PlayersDialog::Edit);
-    cmdDelete_ = button("Delete", &PlayersDialog::Delete);
+    button(tr("New"), &PlayersDialog::Add);
+    button(tr("Edit"), &PlayersDialog::Edit);
+    cmdDelete_ = button(tr("Delete"), &PlayersDialog::Delete);
     column->addStretch();
-    button("Select", &PlayersDialog::Select)->setDefault(true);
-    button("Cancel", &QDialog::reject);
+    button(tr("Select"), &PlayersDialog::Select)->setDefault(true);
+    button(tr("Cancel"), &QDialog::reject);
     auto* all = new QHBoxLayout(this);
     all->addWidget(lvPlayer_);
     all->addLayout(column);
@@ -83,12 +83,12 @@ void PlayersDialog::AskInput(const QString& label, const std::string& name) {
 }
 
 void PlayersDialog::Add() {
-    if (engine_.players().MayAddPlayer()) AskInput(QStringLiteral("Add Player"), {});
+    if (engine_.players().MayAddPlayer()) AskInput(tr("Add Player"), {});
 }
 
 void PlayersDialog::Edit() {
     const std::string name = SelectedName();
-    if (!name.empty()) AskInput(QStringLiteral("Edit Player"), name);
+    if (!name.empty()) AskInput(tr("Edit Player"), name);
 }
 
 void PlayersDialog::Delete() {

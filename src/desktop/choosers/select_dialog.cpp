@@ -25,18 +25,18 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
       players_(new QComboBox),
       name_(new QLabel),
       preview_(new QLabel),
-      play_(new QPushButton(QStringLiteral("Play"))),
-      rules_(new QPushButton(QStringLiteral("Rules"))) {
+      play_(new QPushButton(tr("Play"))),
+      rules_(new QPushButton(tr("Rules"))) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(ToQt(kProductName));
 
-    NamePurpose(*players_, QStringLiteral("Player"));
+    NamePurpose(*players_, tr("Player"));
     QFont large = name_->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     large.setBold(true);
     name_->setFont(large);
     preview_->setFixedSize(kPreviewSize);
-    preview_->setAccessibleName(QStringLiteral("Preview of the game"));
+    preview_->setAccessibleName(tr("Preview of the game"));
 
     auto* frame = new QGroupBox;
     auto* inFrame = new QVBoxLayout(frame);
@@ -45,7 +45,7 @@ SelectDialog::SelectDialog(Engine& engine, QWidget* parent)
     auto* buttons = new QDialogButtonBox;
     // Tab goes from one to the next in this order; their places follow from what they are for.
     buttons->addButton(play_, QDialogButtonBox::AcceptRole);
-    auto* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    auto* cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     buttons->addButton(rules_, QDialogButtonBox::HelpRole);
 
     auto* right = new QVBoxLayout;

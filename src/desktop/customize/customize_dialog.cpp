@@ -13,6 +13,7 @@
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_size.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/scores_access.h"
 
 namespace varnello {
@@ -24,19 +25,22 @@ struct SpeedRow {
     const char* caption;
     NumberKey key;
 };
-constexpr std::array kSpeeds{SpeedRow{"Card Moving Speed", keys::CardSpeed},
-                             SpeedRow{"Undo/Redo Speed", keys::UndoSpeed},
-                             SpeedRow{"Undoall/Redoall Speed", keys::UndoallSpeed},
-                             SpeedRow{"Replay Speed", keys::ReplaySpeed}};
+constexpr std::array kSpeeds{
+    SpeedRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Card Moving Speed"), keys::CardSpeed},
+    SpeedRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Undo/Redo Speed"), keys::UndoSpeed},
+    SpeedRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Undoall/Redoall Speed"),
+             keys::UndoallSpeed},
+    SpeedRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Replay Speed"), keys::ReplaySpeed}};
 constexpr int kSlowest = 50;  // the stored value of a slider's left end; the right end is 0
 
 struct CounterRow {
     const char* text;
     NumberKey key;
 };
-constexpr std::array kCounters{CounterRow{"Show Time", keys::ShowTime},
-                               CounterRow{"Show Score", keys::ShowScore},
-                               CounterRow{"Show Moves", keys::ShowMoves}};
+constexpr std::array kCounters{
+    CounterRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Show Time"), keys::ShowTime},
+    CounterRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Show Score"), keys::ShowScore},
+    CounterRow{QT_TRANSLATE_NOOP("varnello::CustomizeDialog", "Show Moves"), keys::ShowMoves}};
 
 /// Where the slider of a speed stands; for a stored value outside its range at the nearest end.
 int PositionOf(const cData& data, const NumberKey& speed) {
@@ -56,18 +60,18 @@ CustomizeDialog::CustomizeDialog(Engine& engine, QWidget* parent)
       deck_(engine.data().Get(keys::DeckIndex)),
       SSTab1_(new QTabWidget),
       tvBGround_(new QTreeWidget),
-      Picture1_(new LookPreview(QStringLiteral("Background preview"))),
-      chkFade_(new QCheckBox(QStringLiteral("&Fade Background"))),
-      cmdCustom_(new QPushButton(QStringLiteral("Colors.."))),
+      Picture1_(new LookPreview(tr("Background preview"))),
+      chkFade_(new QCheckBox(tr("&Fade Background"))),
+      cmdCustom_(new QPushButton(tr("Colors.."))),
       tvDeck_(new QTreeWidget),
-      picDeckBack_(new LookPreview(QStringLiteral("Deck preview"))),
+      picDeckBack_(new LookPreview(tr("Deck preview"))),
       lvSound_(new QListWidget) {
-    setWindowTitle(QStringLiteral("Customize"));
-    SSTab1_->addTab(new ScrolledPage(MakeGeneral()), QStringLiteral("General"));
-    SSTab1_->addTab(MakeBackground(), QStringLiteral("Background"));
-    SSTab1_->addTab(MakeDecks(), QStringLiteral("Decks"));
+    setWindowTitle(tr("Customize"));
+    SSTab1_->addTab(new ScrolledPage(MakeGeneral()), tr("General"));
+    SSTab1_->addTab(MakeBackground(), tr("Background"));
+    SSTab1_->addTab(MakeDecks(), tr("Decks"));
     SSTab1_->addTab(new ScrolledPage(MakeAnimationAndSounds()),
-                    QStringLiteral("Animation && Sounds"));
+                    tr("Animation && Sounds"));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* all = new QVBoxLayout(this);
@@ -130,10 +134,10 @@ void CustomizeDialog::StoreSpeedsAndSounds() {
 }
 
 QWidget* CustomizeDialog::MakeCounters() {
-    auto* frame = new QGroupBox(QStringLiteral("Counters"));
+    auto* frame = new QGroupBox(tr("Counters"));
     auto* rows = new QVBoxLayout(frame);
     for (const CounterRow& row : kCounters) {
-        auto* box = new QCheckBox(QString::fromLatin1(row.text));
+        auto* box = new QCheckBox(tr(row.text));
         box->setChecked(engine_.data().Get(row.key) == 1);
         connect(box, &QCheckBox::toggled, this,
                 [this, key = row.key](bool on) { engine_.data().Set(key, on ? 1 : 0); });
@@ -143,14 +147,14 @@ QWidget* CustomizeDialog::MakeCounters() {
 }
 
 QWidget* CustomizeDialog::MakeRange() {
-    auto* frame = new QGroupBox(QStringLiteral("Random Range"));
+    auto* frame = new QGroupBox(tr("Random Range"));
     auto* rows = new QVBoxLayout(frame);
     imcRange_ = new QComboBox;
-    auto* label = new QLabel(QStringLiteral("Random Range Selection between 0 and "));
+    auto* label = new QLabel(tr("Random Range Selection between 0 and "));
     label->setBuddy(imcRange_);
     imcRange_->setAccessibleName(label->text());
     for (std::int16_t index = 1; index <= 15; ++index) {
-        imcRange_->addItem(ToQt(HighestNumberText(index)));
+        imcRange_->addItem(Localized(PhraseWord(HighestNumber(index))));
     }
     const int last = imcRange_->count() - 1;
     imcRange_->setCurrentIndex(std::clamp(engine_.data().Get(keys::RangeIndex) - 1, 0, last));
@@ -163,25 +167,25 @@ QWidget* CustomizeDialog::MakeRange() {
 }
 
 QWidget* CustomizeDialog::MakeRecent() {
-    auto* frame = new QGroupBox(QStringLiteral("Recent List"));
+    auto* frame = new QGroupBox(tr("Recent List"));
     auto* row = new QHBoxLayout(frame);
-    cmdClearRecent_ = new QPushButton(QStringLiteral("Clear"));
+    cmdClearRecent_ = new QPushButton(tr("Clear"));
     cmdClearRecent_->setAutoDefault(false);
     cmdClearRecent_->setEnabled(engine_.data().RecentCount() > 0);
     connect(cmdClearRecent_, &QPushButton::clicked, this, &CustomizeDialog::ClearRecent);
-    row->addWidget(new QLabel(QStringLiteral("Clear  Recent Games List")));
+    row->addWidget(new QLabel(tr("Clear  Recent Games List")));
     row->addStretch();
     row->addWidget(cmdClearRecent_);
     return frame;
 }
 
 QWidget* CustomizeDialog::MakeStatistics() {
-    auto* frame = new QGroupBox(QStringLiteral("Game Statistics"));
+    auto* frame = new QGroupBox(tr("Game Statistics"));
     auto* row = new QHBoxLayout(frame);
-    auto* exportStat = new QPushButton(QStringLiteral("Export Statistics"));
+    auto* exportStat = new QPushButton(tr("Export Statistics"));
     exportStat->setAutoDefault(false);
     connect(exportStat, &QPushButton::clicked, this, [this] { ExportScores(engine_, this); });
-    auto* clearStat = new QPushButton(QStringLiteral("Clear Statistics"));
+    auto* clearStat = new QPushButton(tr("Clear Statistics"));
     clearStat->setAutoDefault(false);
     connect(clearStat, &QPushButton::clicked, this, [this] {
         if (AskYesNo(this, kClearStatQuestion)) engine_.results().ClearStat();
@@ -206,7 +210,7 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
     auto* page = new QWidget;
     auto* all = new QGridLayout(page);
     for (std::size_t i = 0; i < kSpeeds.size(); ++i) {
-        auto* frame = new QGroupBox(QString::fromLatin1(kSpeeds[i].caption));
+        auto* frame = new QGroupBox(tr(kSpeeds[i].caption));
         auto* slider = new QSlider(Qt::Horizontal);
         slider->setRange(0, kSlowest);
         slider->setSingleStep(1);
@@ -217,15 +221,15 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
         auto* inside = new QVBoxLayout(frame);
         inside->addWidget(slider);
         auto* ends = new QHBoxLayout;
-        ends->addWidget(new QLabel(QStringLiteral("Slow")));
+        ends->addWidget(new QLabel(tr("Slow")));
         ends->addStretch();
-        ends->addWidget(new QLabel(QStringLiteral("Fast")));
+        ends->addWidget(new QLabel(tr("Fast")));
         inside->addLayout(ends);
         all->addWidget(frame, static_cast<int>(i), 0);
     }
     FillSounds();
     auto* right = new QVBoxLayout;
-    auto* header = new QLabel(QStringLiteral("Select Sound"));
+    auto* header = new QLabel(tr("Select Sound"));
     header->setBuddy(lvSound_);
     right->addWidget(header);
     right->addWidget(lvSound_);
@@ -236,9 +240,9 @@ QWidget* CustomizeDialog::MakeAnimationAndSounds() {
 }
 
 void CustomizeDialog::FillSounds() {
-    lvSound_->setAccessibleName(QStringLiteral("Select Sound"));
+    lvSound_->setAccessibleName(tr("Select Sound"));
     for (const SoundRow& row : kSounds) {
-        auto* item = new QListWidgetItem(ToQt(row.Caption), lvSound_);
+        auto* item = new QListWidgetItem(Localized(row.Caption), lvSound_);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(engine_.data().SoundOn(row.Event) ? Qt::Checked : Qt::Unchecked);
     }

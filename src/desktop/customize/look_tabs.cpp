@@ -7,6 +7,7 @@
 #include "desktop/customize/customize_dialog.h"
 #include "desktop/customize/look_icons.h"
 #include "desktop/platform/tree_width.h"
+#include "desktop/platform/words.h"
 
 // The tabs "Background" and "Decks": trees whose items carry the number of a look.
 namespace varnello {
@@ -29,10 +30,14 @@ QTreeWidgetItem* AddItem(QTreeWidget* tree, QTreeWidgetItem* parent, const QStri
 void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>& groups,
                int chosen) {
     for (const LookGroup& group : groups) {
-        auto* node = new QTreeWidgetItem(root, {group.name});
+        const QString name = CustomizeDialog::tr(group.name);
+        auto* node = new QTreeWidgetItem(root, {name});
         int number = 0;
         for (const int id : group.ids) {
-            AddItem(tree, node, QStringLiteral("%1 0%2").arg(group.name).arg(++number), id, chosen);
+            const QString place = InDigits(tr("0%1").arg(++number));
+            AddItem(tree, node,
+                    CustomizeDialog::tr("%1 %2", "a group of looks, a number").arg(name, place), id,
+                    chosen);
         }
     }
 }
@@ -94,12 +99,12 @@ QWidget* CustomizeDialog::MakeBackground() {
 }
 
 void CustomizeDialog::FillBackgrounds() {
-    QTreeWidgetItem* root = Root(tvBGround_, QStringLiteral("Backgrounds"));
-    auto* colors = new QTreeWidgetItem(root, {QStringLiteral("Colors")});
-    customItem_ = AddItem(tvBGround_, colors, QStringLiteral("Custom Color"), kCustomBackground,
-                          background_.bgIndex);
+    QTreeWidgetItem* root = Root(tvBGround_, tr("Backgrounds"));
+    auto* colors = new QTreeWidgetItem(root, {tr("Colors")});
+    customItem_ =
+        AddItem(tvBGround_, colors, tr("Custom Color"), kCustomBackground, background_.bgIndex);
     for (int id = kFirstColour; id < kFirstColour + kOfferedColours; ++id) {
-        AddItem(tvBGround_, colors, GetCol(id)->name, id, background_.bgIndex);
+        AddItem(tvBGround_, colors, tr(GetCol(id)->name), id, background_.bgIndex);
     }
     AddGroups(tvBGround_, root, TileGroups(), background_.bgIndex);
     tvBGround_->setMinimumWidth(WidthOfTree(*tvBGround_));
@@ -143,7 +148,7 @@ QWidget* CustomizeDialog::MakeDecks() {
 }
 
 void CustomizeDialog::FillDecks() {
-    QTreeWidgetItem* root = Root(tvDeck_, QStringLiteral("Decks"));
+    QTreeWidgetItem* root = Root(tvDeck_, tr("Decks"));
     AddGroups(tvDeck_, root, DeckGroups(), deck_);
     DrawIconsOfOpenGroups(tvDeck_, DeckIcon);
 }

@@ -33,7 +33,7 @@ QLabel* Line(const QString& text, double scale, const QColor& ink) {
 
 AboutDialog::AboutDialog(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
-    setWindowTitle(QStringLiteral("About ") + ToQt(kProductName));
+    setWindowTitle(tr("About %1").arg(ToQt(kProductName)));
     QPalette white = palette();
     white.setColor(QPalette::Window, Qt::white);
     setPalette(white);
@@ -45,7 +45,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     lblName->setAlignment(Qt::AlignCenter);
     lblName->setMinimumWidth(kLeastWidth - kSides * 2);
     lblName->setAccessibleName(ToQt(kProductName));
-    auto* ok = new QPushButton(QStringLiteral("OK"));
+    auto* ok = new QPushButton(tr("OK"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
@@ -53,12 +53,11 @@ AboutDialog::AboutDialog(QWidget* parent)
     all->setContentsMargins(kSides, 20, kSides, 16);
     all->addWidget(lblName);
     all->addSpacing(10);
-    all->addWidget(
-        Line(QStringLiteral("Patience for a quiet hour. The cards will wait."), 1.15, kInk));
+    all->addWidget(Line(tr("Patience for a quiet hour. The cards will wait."), 1.15, kInk));
     all->addSpacing(4);
-    all->addWidget(Line(QStringLiteral("Version %1").arg(ToQt(kVersion)), 1, kQuietInk));
-    all->addWidget(Line(QStringLiteral("Free software under the GNU General Public License,\n"
-                                       "version 3 or later"),
+    all->addWidget(Line(tr("Version %1").arg(ToQt(kVersion)), 1, kQuietInk));
+    all->addWidget(Line(tr("Free software under the GNU General Public License,\n"
+                           "version 3 or later"),
                         0.9, kQuietInk));
     all->addStretch();
     all->addSpacing(10);

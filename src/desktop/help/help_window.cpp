@@ -36,7 +36,8 @@ HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
     all->addWidget(browser_);
     connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
         found_->clear();
-        setWindowTitle(PageOf(page.path()).title + QStringLiteral(" - ") + ToQt(kProductName));
+        setWindowTitle(tr("%1 - %2", "a help page, the program")
+                           .arg(PageOf(page.path()).title, ToQt(kProductName)));
     });
     auto* memory = new WindowMemory(this, store, "Help", kSize);
     memory->Keep(

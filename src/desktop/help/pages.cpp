@@ -1,13 +1,19 @@
 #include "desktop/help/pages.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "engine/definitions/catalogue.h"
 #include "engine/definitions/describe.h"
 
 namespace varnello {
 namespace {
+
+struct Pages {
+    Q_DECLARE_TR_FUNCTIONS(Pages)
+};
 
 const QString kGamePrefix = QStringLiteral("game:");
 
@@ -24,9 +30,11 @@ QString FileOf(std::string_view game) {
 QString Facts(const GameRow& row) {
     QString html = QStringLiteral("<table cellpadding='4'>");
     for (const GameFact& fact : Describe(row)) {
+        QStringList sentences;
+        for (const Phrase& sentence : fact.Sentences) sentences << Localized(sentence);
         html += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
-                    .arg(ToQt(fact.Heading).replace(' ', "&nbsp;"),
-                         ToQt(fact.English()).toHtmlEscaped());
+                    .arg(Localized(fact.Heading).toHtmlEscaped().replace(' ', "&nbsp;"),
+                         sentences.join(' ').toHtmlEscaped());
     }
     return html + QStringLiteral("</table>");
 }
@@ -36,7 +44,8 @@ QString GamePage(const GameRow& row) {
     return QStringLiteral("<p><img src=\"preview:%1\"></p>").arg(name) +
            Prose(FileOf(row.Name))
                .replace(QStringLiteral("<h2>Hints</h2>"),
-                        QStringLiteral("<h2>Rules</h2>%1<h2>Hints</h2>").arg(Facts(row)));
+                        QStringLiteral("<h2>%1</h2>%2<h2>Hints</h2>")
+                            .arg(Pages::tr("Rules").toHtmlEscaped(), Facts(row)));
 }
 
 /// The other pages in a column, and beside it all games with their previews.
@@ -61,9 +70,9 @@ QString Contents(int columns) {
 }  // namespace
 
 HelpPage PageOf(const QString& name, int columns) {
-    if (name == QStringLiteral("contents")) return {QStringLiteral("Contents"), Contents(columns)};
-    if (name == QStringLiteral("playing")) return {QStringLiteral("How to play"), Prose(name)};
-    if (name == QStringLiteral("words")) return {QStringLiteral("Words of patience"), Prose(name)};
+    if (name == QStringLiteral("contents")) return {Pages::tr("Contents"), Contents(columns)};
+    if (name == QStringLiteral("playing")) return {Pages::tr("How to play"), Prose(name)};
+    if (name == QStringLiteral("words")) return {Pages::tr("Words of patience"), Prose(name)};
     if (!name.startsWith(kGamePrefix)) return {};
     const QString game = name.mid(kGamePrefix.size());
     const GameRow* row = FindGame(game.toStdString());

@@ -1,12 +1,23 @@
 #include "desktop/platform/dates.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QTime>
 
+#include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
+#include "engine/common/number_text.h"
+
 namespace varnello {
 namespace {
+
+struct Forms {
+    Q_DECLARE_TR_FUNCTIONS(Dates)
+};
+
+QString MonthName(int month) { return QLocale().standaloneMonthName(month, QLocale::ShortFormat); }
 
 QDate DateOf(const DateTime& moment) { return {moment.year, moment.month, moment.day}; }
 
@@ -38,8 +49,20 @@ std::string LocaleDates::DateAndTime(const DateTime& moment) const {
     return Date(moment) + ' ' + TimeText(moment).toStdString();
 }
 
-std::string LocaleDates::Month(int month) const {
-    return QLocale().standaloneMonthName(month, QLocale::ShortFormat).toStdString();
+std::string LocaleDates::DayOfYear(const DateTime& moment) const {
+    return Forms::tr("%1 %2", "a month's short name, a day")
+        .arg(MonthName(moment.month), InDigits(ToQt(TwoDigits(moment.day))))
+        .toStdString();
+}
+
+std::string LocaleDates::MonthOfYear(const DateTime& moment) const {
+    return Forms::tr("%1 %2", "a month's short name, the last two digits of a year")
+        .arg(MonthName(moment.month), InDigits(ToQt(TwoDigits(moment.year % 100))))
+        .toStdString();
+}
+
+std::string LocaleDates::Year(const DateTime& moment) const {
+    return AsFigure(moment.year).toStdString();
 }
 
 }  // namespace varnello

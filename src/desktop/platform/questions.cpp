@@ -1,10 +1,12 @@
 #include "desktop/platform/questions.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "engine/settings/data.h"
 
 namespace varnello {
@@ -12,9 +14,13 @@ namespace {
 
 constexpr QSize kFileDialogSize(760, 500);
 
-int RunBox(QWidget* parent, std::string_view text, QMessageBox::Icon icon,
+struct Questions {
+    Q_DECLARE_TR_FUNCTIONS(Questions)
+};
+
+int RunBox(QWidget* parent, const QString& text, QMessageBox::Icon icon,
            QMessageBox::StandardButtons buttons, QMessageBox::StandardButton byDefault) {
-    QMessageBox box(icon, ToQt(kProductName), ToQt(text), buttons, parent);
+    QMessageBox box(icon, ToQt(kProductName), text, buttons, parent);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(byDefault);
     return box.exec();
@@ -23,18 +29,18 @@ int RunBox(QWidget* parent, std::string_view text, QMessageBox::Icon icon,
 }  // namespace
 
 bool AskYesNo(QWidget* parent, std::string_view question, QMessageBox::Icon icon) {
-    return RunBox(parent, question, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
-           QMessageBox::Yes;
+    return RunBox(parent, Localized(question), icon, QMessageBox::Yes | QMessageBox::No,
+                  QMessageBox::No) == QMessageBox::Yes;
 }
 
-void TellInBox(QWidget* parent, std::string_view text, QMessageBox::Icon icon) {
-    RunBox(parent, text, icon, QMessageBox::Ok, QMessageBox::Ok);
+void TellInBox(QWidget* parent, const Phrase& text, QMessageBox::Icon icon) {
+    RunBox(parent, Localized(text), icon, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 std::optional<ChosenFile> AskForReportFile(QWidget* parent) {
-    QFileDialog dialog(parent, QStringLiteral("Export Statistics"),
+    QFileDialog dialog(parent, Questions::tr("Export Statistics"),
                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                       QStringLiteral("Text File (*.txt)"));
+                       Questions::tr("Text File (*.txt)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.selectFile(QStringLiteral("Scoreboard"));
     dialog.resize(kFileDialogSize);

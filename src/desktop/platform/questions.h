@@ -18,6 +18,6 @@ bool AskYesNo(QWidget* parent, std::string_view question,
 std::optional<ChosenFile> AskForReportFile(QWidget* parent);
 
 /// A box that tells a text as it stands, never as markup.
-void TellInBox(QWidget* parent, std::string_view text, QMessageBox::Icon icon);
+void TellInBox(QWidget* parent, const Phrase& text, QMessageBox::Icon icon);
 
 }  // namespace varnello

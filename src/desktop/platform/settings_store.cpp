@@ -47,7 +47,10 @@ void FileSettings::Open() {
     const QFileInfo there(path);
     if (there.exists() && !there.isFile()) {
         // Something that may be waited for, or never ends, isn't even opened.
-        qWarning("%s is no plain file; the settings of this run aren't kept.", qPrintable(path));
+        qWarning("%s", qPrintable(QCoreApplication::translate(
+                                      "Settings",
+                                      "%1 is no plain file; the settings of this run aren't kept.")
+                                      .arg(path)));
         path += QStringLiteral("/none");
     }
     file_ = std::make_unique<QSettings>(path, QSettings::IniFormat);

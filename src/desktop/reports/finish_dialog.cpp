@@ -13,6 +13,7 @@
 #include "desktop/appearance/pictures.h"
 #include "desktop/charts/totals_chart.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/report_charts.h"
 
 namespace varnello {
@@ -60,7 +61,7 @@ protected:
 
 FinishDialog::FinishDialog(const FinishFigures& figures, const OwnWins& wins, QWidget* parent)
     : QDialog(parent) {
-    setWindowTitle(QStringLiteral("Congrats"));
+    setWindowTitle(tr("Congrats"));
     auto* all = new QVBoxLayout(this);
     all->addWidget(MakeToolbar());
     all->addWidget(MakeResult(figures, wins));
@@ -71,10 +72,10 @@ QWidget* FinishDialog::MakeToolbar() {
     auto* strip = new QWidget;
     auto* row = new QHBoxLayout(strip);
     row->setContentsMargins(0, 0, 0, 0);
-    const auto button = [&](const char* icon, const char* caption) {
+    const auto button = [&](const char* icon, const QString& caption) {
         auto* made = new CommandButton;
         made->setIcon(SmallIcon(QString::fromLatin1(icon)));
-        made->setText(QString::fromLatin1(caption));
+        made->setText(caption);
         made->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         made->setAutoRaise(true);
         made->setFocusPolicy(Qt::StrongFocus);
@@ -88,15 +89,15 @@ QWidget* FinishDialog::MakeToolbar() {
             accept();
         });
     };
-    newGame_ = button("new", "New Game");
+    newGame_ = button("new", tr("New Game"));
     choose(newGame_, FinishChoice::NewGame);
-    choose(button("select", "Select Game"), FinishChoice::SelectGame);
-    choose(button("restart", "Restart Game"), FinishChoice::RestartGame);
-    connect(button("statistics", "Statistics"), &QToolButton::clicked, this,
+    choose(button("select", tr("Select Game")), FinishChoice::SelectGame);
+    choose(button("restart", tr("Restart Game")), FinishChoice::RestartGame);
+    connect(button("statistics", tr("Statistics")), &QToolButton::clicked, this,
             &FinishDialog::StatisticsAsked);
-    connect(button("highscore", "High Score"), &QToolButton::clicked, this,
+    connect(button("highscore", tr("High Score")), &QToolButton::clicked, this,
             &FinishDialog::HighScoreAsked);
-    choose(button("close", "Close"), FinishChoice::Close);
+    choose(button("close", tr("Close")), FinishChoice::Close);
     row->addStretch();
     return strip;
 }
@@ -111,17 +112,18 @@ QWidget* FinishDialog::MakeResult(const FinishFigures& figures, const OwnWins& w
     row->addWidget(card, 0, Qt::AlignCenter);
 
     auto* list = new QListWidget;
-    for (const std::string& line : figures.Lines) list->addItem(ToQt(line));
+    for (const Phrase& line : figures.Lines) list->addItem(Localized(line));
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setSpacing(3);
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setFocusPolicy(Qt::NoFocus);
-    list->setAccessibleName(QStringLiteral("Result"));
+    list->setAccessibleName(tr("Result"));
     list->setFixedWidth(std::max(kListWidth, list->sizeHintForColumn(0) + kListRoom));
     const int lines = static_cast<int>(figures.Lines.size());
     list->setFixedHeight(lines * (list->sizeHintForRow(0) + 2 * list->spacing()) +
                          2 * list->frameWidth());
-    auto* place = new QLabel(ToQt(PlaceText(wins)));
+    const auto wonPlace = PlaceText(wins);
+    auto* place = new QLabel(wonPlace ? Localized(*wonPlace) : QString());
     QFont large = place->font();
     large.setPointSizeF(large.pointSizeF() * kPlaceSize);
     large.setBold(true);
@@ -137,7 +139,7 @@ QWidget* FinishDialog::MakeResult(const FinishFigures& figures, const OwnWins& w
     told->addStretch();
     row->addLayout(told);
 
-    auto* chFin = new TotalsChart(QStringLiteral("Score, moves and time"));
+    auto* chFin = new TotalsChart(tr("Score, moves and time"));
     chFin->setMinimumSize(kChartSize);
     ChartTable table = TotalsTable(
         {.Played = 1, .Score = figures.Score, .Moves = figures.Moves, .Time = figures.Time});

@@ -18,6 +18,7 @@
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_memory.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/scores_access.h"
 
 namespace varnello {
@@ -27,9 +28,10 @@ constexpr QSize kSize(900, 680);
 constexpr int kGeneralWidth = 270;  // pixels
 constexpr int kListRoom = 36;       // pixels for a list's frame, margins and scroll bar
 
-const QString kNothing =
-    QStringLiteral("Nothing played yet. Finish your first game, and its story begins here.");
-const QString kNothingThen = QStringLiteral("No game was finished in this time.");
+QString Nothing() {
+    return GameStatDialog::tr(
+        "Nothing played yet. Finish your first game, and its story begins here.");
+}
 
 template <std::size_t N>
 RowsModel* NewModel(const std::array<Column, N>& columns) {
@@ -61,9 +63,9 @@ QLabel* Line() {
     return line;
 }
 
-void Tell(QLabel& line, const QString& what, const Streak& streak) {
-    line.setText(
-        QStringLiteral("%1: %2 now, %3 at best").arg(what).arg(streak.Now).arg(streak.Best));
+void Tell(QLabel& line, const std::string& player, const Streak& streak) {
+    line.setText(GameStatDialog::tr("Won in a row by %1: %2 now, %3 at best")
+                     .arg(ToQt(player), AsFigure(streak.Now), AsFigure(streak.Best)));
 }
 
 /// The charts show what a person chooses, by the combo or by the row of the same place in the list.
@@ -94,19 +96,19 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
       lvGames_(NewModel(kGameColumns)),
       lvDate_(NewModel(PeriodColumns(PeriodChoices().front()))),
       lvPlayer_(NewModel(kPlayerColumns)),
-      gamesView_(new ReportView(lvGames_, QStringLiteral("Games"))),
-      playersView_(new ReportView(lvPlayer_, QStringLiteral("Players"))),
+      gamesView_(new ReportView(lvGames_, tr("Games"))),
+      playersView_(new ReportView(lvPlayer_, tr("Players"))),
       imcGames_(new QComboBox),
       imcDate_(new QComboBox),
       imcPlayer_(new QComboBox),
-      chGen_(new ShareChart(QStringLiteral("Games won and lost"))),
-      chGen1_(new TotalsChart(QStringLiteral("Total score, moves and time"))),
-      chGames_(new ShareChart(QStringLiteral("Won and lost of the game"))),
-      chGames1_(new RowChart(QStringLiteral("The first games one by one"))),
-      chDate_(new RowChart(QStringLiteral("Played and won over time"))),
-      chDate1_(new RowChart(QStringLiteral("Score, moves and time over time"))),
-      chPlayer_(new ShareChart(QStringLiteral("Won and lost of the player"))),
-      chPlayer1_(new TotalsChart(QStringLiteral("Score, moves and time of the player"))),
+      chGen_(new ShareChart(tr("Games won and lost"))),
+      chGen1_(new TotalsChart(tr("Total score, moves and time"))),
+      chGames_(new ShareChart(tr("Won and lost of the game"))),
+      chGames1_(new RowChart(tr("The first games one by one"))),
+      chDate_(new RowChart(tr("Played and won over time"))),
+      chDate1_(new RowChart(tr("Score, moves and time over time"))),
+      chPlayer_(new ShareChart(tr("Won and lost of the player"))),
+      chPlayer1_(new TotalsChart(tr("Score, moves and time of the player"))),
       generalCharts_(Below(chGen_, chGen1_)),
       gameCharts_(Beside(chGames_, chGames1_)),
       dateCharts_(Below(chDate_, chDate1_)),
@@ -114,12 +116,12 @@ GameStatDialog::GameStatDialog(Engine& engine, QWidget* parent)
       generalStreak_(Line()),
       gameStreak_(Line()),
       playerStreak_(Line()) {
-    setWindowTitle(QStringLiteral("Game Statistics"));
+    setWindowTitle(tr("Game Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
-    SSTab1_->addTab(MakeGeneral(), QStringLiteral("General Summary"));
-    SSTab1_->addTab(MakeGames(), QStringLiteral("Game-wise"));
-    SSTab1_->addTab(MakeDates(), QStringLiteral("Date-wise"));
-    SSTab1_->addTab(MakePlayers(), QStringLiteral("Player-wise"));
+    SSTab1_->addTab(MakeGeneral(), tr("General Summary"));
+    SSTab1_->addTab(MakeGames(), tr("Game-wise"));
+    SSTab1_->addTab(MakeDates(), tr("Date-wise"));
+    SSTab1_->addTab(MakePlayers(), tr("Player-wise"));
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(MakeButtons());
@@ -142,7 +144,7 @@ QWidget* GameStatDialog::MakeGeneral() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
     lvGeneral_->setSpacing(5);
-    lvGeneral_->setAccessibleName(QStringLiteral("General summary"));
+    lvGeneral_->setAccessibleName(tr("General summary"));
     auto* left = new QVBoxLayout;
     left->addWidget(lvGeneral_);
     left->addWidget(generalStreak_);
@@ -158,7 +160,7 @@ QWidget* GameStatDialog::MakeGames() {
         [this](int row) { return GameMark(engine_.data().GetGName(Narrow16(row + 1))); });
     gamesView_->setIconSize(kGameMarkSize);
     FillGames(*imcGames_, engine_.data(), engine_.data().CurGName());
-    NamePurpose(*imcGames_, QStringLiteral("Game shown in the charts"));
+    NamePurpose(*imcGames_, tr("Game shown in the charts"));
     ChooseBy(*gamesView_, *imcGames_, [this] { ShowGame(); });
     column->addWidget(gamesView_, 1);
     column->addWidget(gameStreak_);
@@ -170,10 +172,10 @@ QWidget* GameStatDialog::MakeGames() {
 QWidget* GameStatDialog::MakeDates() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    for (const PeriodChoice& choice : PeriodChoices()) imcDate_->addItem(ToQt(choice.Text));
-    NamePurpose(*imcDate_, QStringLiteral("Time shown"));
+    for (const PeriodChoice& choice : PeriodChoices()) imcDate_->addItem(Localized(choice.Text));
+    NamePurpose(*imcDate_, tr("Time shown"));
     connect(imcDate_, &QComboBox::activated, this, &GameStatDialog::ShowPeriods);
-    auto* list = new ReportView(lvDate_, QStringLiteral("Days, months or years"));
+    auto* list = new ReportView(lvDate_, tr("Days, months or years"));
     auto* left = new QVBoxLayout;
     left->addWidget(imcDate_);
     left->addWidget(list);
@@ -187,7 +189,7 @@ QWidget* GameStatDialog::MakePlayers() {
     auto* column = new QVBoxLayout(page);
     lvPlayer_->SetIcons([](int) { return SmallIcon(QStringLiteral("player")); });
     FillPlayers(*imcPlayer_, engine_.data());
-    NamePurpose(*imcPlayer_, QStringLiteral("Player shown in the charts"));
+    NamePurpose(*imcPlayer_, tr("Player shown in the charts"));
     ChooseBy(*playersView_, *imcPlayer_, [this] { ShowPlayer(); });
     column->addWidget(playersView_, 1);
     column->addWidget(playerStreak_);
@@ -198,11 +200,9 @@ QWidget* GameStatDialog::MakePlayers() {
 
 QWidget* GameStatDialog::MakeButtons() {
     auto* buttons = new QDialogButtonBox;
-    auto* cmdClear =
-        buttons->addButton(QStringLiteral("Clear Statistics"), QDialogButtonBox::ActionRole);
-    auto* cmdExport =
-        buttons->addButton(QStringLiteral("Export Statistics"), QDialogButtonBox::ActionRole);
-    auto* cmdClose = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    auto* cmdClear = buttons->addButton(tr("Clear Statistics"), QDialogButtonBox::ActionRole);
+    auto* cmdExport = buttons->addButton(tr("Export Statistics"), QDialogButtonBox::ActionRole);
+    auto* cmdClose = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     cmdClear->setAutoDefault(false);
     cmdExport->setAutoDefault(false);
     cmdClose->setDefault(true);
@@ -218,15 +218,14 @@ QWidget* GameStatDialog::MakeButtons() {
 void GameStatDialog::FillGeneral() {
     const ScoreSummary summary = engine_.score().AllSummary();
     lvGeneral_->clear();
-    for (const std::string& line : GeneralLines(summary)) lvGeneral_->addItem(ToQt(line));
+    for (const Phrase& line : GeneralLines(summary)) lvGeneral_->addItem(Localized(line));
     lvGeneral_->setFixedWidth(
         std::max(kGeneralWidth, lvGeneral_->sizeHintForColumn(0) + kListRoom));
     chGen_->Show(ShareTable(summary));
     chGen1_->Show(TotalsTable(summary));
-    generalCharts_->Say(summary.Played > 0 ? QString() : kNothing);
+    generalCharts_->Say(summary.Played > 0 ? QString() : Nothing());
     const std::string player = engine_.data().CurPlayer();
-    Tell(*generalStreak_, QStringLiteral("Won in a row by %1").arg(ToQt(player)),
-         engine_.score().PlayerStreak(player));
+    Tell(*generalStreak_, player, engine_.score().PlayerStreak(player));
 }
 
 void GameStatDialog::ShowGame() {
@@ -239,7 +238,7 @@ void GameStatDialog::ShowGame() {
         figures.push_back({record.Score, record.Moves, record.Time});
         const auto moment = ParseDateText(record.Date);
         const std::string date = moment ? engine_.dates().DateAndTime(*moment) : record.Date;
-        tips << QStringLiteral("%1\nGame %2, %3")
+        tips << tr("%1\nGame %2, %3", "date, game number, player")
                     .arg(ToQt(date), ToQt(record.GameNo.Shown()), ToQt(record.Player));
     }
     ChartTable table = FiguresTable(figures);
@@ -247,12 +246,13 @@ void GameStatDialog::ShowGame() {
     table.firstRow = 0;
     table.rowTips = tips;
     chGames1_->Show(table);
-    gameCharts_->Say(summary.Played > 0
-                         ? QString()
-                         : QStringLiteral("%1 is waiting for its first game.").arg(ToQt(game)));
+    gameCharts_->Say(summary.Played > 0 ? QString()
+                                        : tr("%1 is waiting for its first game.").arg(ToQt(game)));
     const std::string player = engine_.data().CurPlayer();
-    Tell(*gameStreak_, QStringLiteral("%1 won in a row by %2").arg(ToQt(game), ToQt(player)),
-         engine_.score().PlayerStreak(player, game));
+    const Streak streak = engine_.score().PlayerStreak(player, game);
+    gameStreak_->setText(
+        tr("%1 won in a row by %2: %3 now, %4 at best", "a game, a player, two numbers")
+            .arg(ToQt(game), ToQt(player), AsFigure(streak.Now), AsFigure(streak.Best)));
     gamesView_->ShowRow(imcGames_->currentIndex());
 }
 
@@ -272,7 +272,9 @@ void GameStatDialog::ShowPeriods() {
     sums.rowNames = played.rowNames;
     const bool any = std::any_of(periods.begin(), periods.end(),
                                  [](const PeriodSummary& period) { return period.Played > 0; });
-    dateCharts_->Say(any ? QString() : engine_.score().ScoreTop() == 0 ? kNothing : kNothingThen);
+    dateCharts_->Say(any                               ? QString()
+                     : engine_.score().ScoreTop() == 0 ? Nothing()
+                                                       : tr("No game was finished in this time."));
     if (!any) played.rows = sums.rows = {};
     chDate_->Show(played);
     chDate1_->Show(sums);
@@ -283,11 +285,9 @@ void GameStatDialog::ShowPlayer() {
     const ScoreSummary summary = engine_.score().PlayerSummary(player);
     chPlayer_->Show(ShareTable(summary));
     chPlayer1_->Show(TotalsTable(summary));
-    playerCharts_->Say(summary.Played > 0
-                           ? QString()
-                           : QStringLiteral("%1 hasn't finished a game yet.").arg(ToQt(player)));
-    Tell(*playerStreak_, QStringLiteral("Won in a row by %1").arg(ToQt(player)),
-         engine_.score().PlayerStreak(player));
+    playerCharts_->Say(summary.Played > 0 ? QString()
+                                          : tr("%1 hasn't finished a game yet.").arg(ToQt(player)));
+    Tell(*playerStreak_, player, engine_.score().PlayerStreak(player));
     playersView_->ShowRow(imcPlayer_->currentIndex());
 }
 

@@ -11,6 +11,7 @@
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_memory.h"
+#include "desktop/platform/words.h"
 #include "engine/reports/wins.h"
 
 namespace varnello {
@@ -19,13 +20,12 @@ namespace {
 constexpr QSize kSize(1000, 620);
 
 struct Order {
-    const char* text;
     FinishedBy by;
-    RecordField field;
+    RecordColumn column;
 };
-constexpr std::array kOrders{Order{"Score", FinishedBy::Score, RecordField::Score},
-                             Order{"Moves", FinishedBy::Moves, RecordField::Moves},
-                             Order{"Time", FinishedBy::Time, RecordField::Time}};
+constexpr std::array kOrders{Order{FinishedBy::Score, columns::Score},
+                             Order{FinishedBy::Moves, columns::Moves},
+                             Order{FinishedBy::Time, columns::Time}};
 
 int ColumnOf(RecordColumns columns, RecordField field) {
     return static_cast<int>(PlaceOf(field, columns));
@@ -37,28 +37,28 @@ HighScoreDialog::HighScoreDialog(Engine& engine, bool won, QWidget* parent)
     : QDialog(parent),
       engine_(engine),
       SSTab1_(new QTabWidget),
-      lvTop_(NewSheet(kTopColumns, QStringLiteral("Top games"))),
-      lvGames_(NewSheet(kTopOfGameColumns, QStringLiteral("Best of the game"))),
-      lvPlayer_(NewSheet(kTopOfPlayerColumns, QStringLiteral("Best of the player"))),
-      lvFin_(NewSheet(kFinishedColumns, QStringLiteral("Best won games"))),
+      lvTop_(NewSheet(kTopColumns, tr("Top games"))),
+      lvGames_(NewSheet(kTopOfGameColumns, tr("Best of the game"))),
+      lvPlayer_(NewSheet(kTopOfPlayerColumns, tr("Best of the player"))),
+      lvFin_(NewSheet(kFinishedColumns, tr("Best won games"))),
       imcGames_(new QComboBox),
       imcPlayer_(new QComboBox),
       imcFin_(new QComboBox) {
-    setWindowTitle(QStringLiteral("High Score"));
+    setWindowTitle(tr("High Score"));
     setWindowIcon(SmallIcon(QStringLiteral("highscore")));
     FillGames(*imcGames_, engine.data(), engine.data().CurGName());
     FillPlayers(*imcPlayer_, engine.data());
-    for (const Order& order : kOrders) imcFin_->addItem(QString::fromLatin1(order.text));
-    NamePurpose(*imcGames_, QStringLiteral("Game"));
-    NamePurpose(*imcPlayer_, QStringLiteral("Player"));
-    NamePurpose(*imcFin_, QStringLiteral("Ranked by"));
+    for (const Order& order : kOrders) imcFin_->addItem(Localized(order.column.Title));
+    NamePurpose(*imcGames_, tr("Game"));
+    NamePurpose(*imcPlayer_, tr("Player"));
+    NamePurpose(*imcFin_, tr("Ranked by"));
 
-    SSTab1_->addTab(MakePage(nullptr, lvTop_), QStringLiteral("Top Games"));
-    SSTab1_->addTab(MakePage(imcGames_, lvGames_), QStringLiteral("Game-wise"));
-    SSTab1_->addTab(MakePage(imcPlayer_, lvPlayer_), QStringLiteral("Player-wise"));
-    SSTab1_->addTab(MakePage(imcFin_, lvFin_), QStringLiteral("Finished Games"));
+    SSTab1_->addTab(MakePage(nullptr, lvTop_), tr("Top Games"));
+    SSTab1_->addTab(MakePage(imcGames_, lvGames_), tr("Game-wise"));
+    SSTab1_->addTab(MakePage(imcPlayer_, lvPlayer_), tr("Player-wise"));
+    SSTab1_->addTab(MakePage(imcFin_, lvFin_), tr("Finished Games"));
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
     all->addWidget(buttons);
@@ -87,7 +87,7 @@ HighScoreDialog::Sheet HighScoreDialog::NewSheet(RecordColumns columns, const QS
     auto* model = new RowsModel(ColumnsOf(columns));
     model->SetBoldColumn(ColumnOf(columns, RecordField::Score));
     auto* view = new ReportView(model, name);
-    view->SetEmptyText(QStringLiteral("No game has made it onto this list yet."));
+    view->SetEmptyText(tr("No game has made it onto this list yet."));
     connect(view, &ReportView::DealAsked, this, &HighScoreDialog::DealAsked);
     return {model, view, {}};
 }
@@ -131,7 +131,7 @@ void HighScoreDialog::FillPlayer() {
 
 void HighScoreDialog::FillFinished() {
     const Order& order = kOrders[static_cast<std::size_t>(imcFin_->currentIndex())];
-    lvFin_.model->SetBoldColumn(ColumnOf(kFinishedColumns, order.field));
+    lvFin_.model->SetBoldColumn(ColumnOf(kFinishedColumns, order.column.Field));
     Show(lvFin_, FinishedRows(engine_.score(), order.by, engine_.dates()));
 }
 

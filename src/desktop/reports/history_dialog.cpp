@@ -8,6 +8,7 @@
 #include "desktop/appearance/icons.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_memory.h"
+#include "desktop/platform/words.h"
 #include "engine/movelog/history.h"
 
 namespace varnello {
@@ -24,8 +25,8 @@ QColor ColourOf(HistoryMark mark, bool dark) {
 }
 
 QTreeWidgetItem* ItemOf(const HistoryRow& row, const QIcon& icon, bool dark) {
-    auto* item = new QTreeWidgetItem({QString::number(row.Number), ToQt(row.Source),
-                                      ToQt(row.Destination), QString::number(row.Cards)});
+    auto* item = new QTreeWidgetItem({AsFigure(row.Number), Localized(row.Source),
+                                      Localized(row.Destination), AsFigure(row.Cards)});
     item->setIcon(0, icon);
     if (row.Mark == HistoryMark::Applied) return item;
     for (int column = 0; column < kColumns; ++column) {
@@ -41,13 +42,12 @@ QTreeWidgetItem* ItemOf(const HistoryRow& row, const QIcon& icon, bool dark) {
 
 HistoryDialog::HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* parent)
     : QDialog(parent), lvHistory_(new QTreeWidget) {
-    setWindowTitle(QStringLiteral("Game History"));
-    lvHistory_->setHeaderLabels({QString(), QStringLiteral("Source"), QStringLiteral("Destination"),
-                                 QStringLiteral("Cards")});
+    setWindowTitle(tr("Game History"));
+    lvHistory_->setHeaderLabels({QString(), tr("Source"), tr("Destination"), tr("Cards")});
     lvHistory_->setRootIsDecorated(false);
     lvHistory_->setUniformRowHeights(true);
     lvHistory_->setAllColumnsShowFocus(true);
-    lvHistory_->setAccessibleName(QStringLiteral("Moves"));
+    lvHistory_->setAccessibleName(tr("Moves"));
     for (int column = 0; column < kColumns; ++column) {
         lvHistory_->header()->resizeSection(column, kWidths[column]);
     }
@@ -62,7 +62,7 @@ HistoryDialog::HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* p
     }
     lvHistory_->addTopLevelItems(items);
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* all = new QVBoxLayout(this);
     all->addWidget(lvHistory_);

@@ -10,6 +10,7 @@
 #include "desktop/choosers/lists.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_memory.h"
+#include "desktop/platform/words.h"
 #include "engine/common/calendar.h"
 
 namespace varnello {
@@ -31,21 +32,21 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
       imcGames_(new QComboBox),
       imcDate_(new QComboBox),
       lvLog_(new LogModel(engine.score().List(), engine.dates(), this)),
-      view_(new ReportView(lvLog_, QStringLiteral("Log"))),
+      view_(new ReportView(lvLog_, tr("Log"))),
       totals_(new QLabel) {
-    setWindowTitle(QStringLiteral("Log Statistics"));
+    setWindowTitle(tr("Log Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
     FillPlayers(*imcPlayer_, engine.data());
     FillGames(*imcGames_, engine.data(), {});
-    imcPlayer_->insertItem(0, SmallIcon(QStringLiteral("player")), QStringLiteral("All Players"));
-    imcGames_->insertItem(0, SmallIcon(QStringLiteral("games")), QStringLiteral("All Games"));
-    for (const AgeChoice& age : AgeChoices()) imcDate_->addItem(ToQt(age.Text));
+    imcPlayer_->insertItem(0, SmallIcon(QStringLiteral("player")), tr("All Players"));
+    imcGames_->insertItem(0, SmallIcon(QStringLiteral("games")), tr("All Games"));
+    for (const AgeChoice& age : AgeChoices()) imcDate_->addItem(Localized(age.Text));
     imcPlayer_->setCurrentIndex(0);
     imcGames_->setCurrentIndex(0);
     imcDate_->setCurrentIndex(imcDate_->count() - 1);
-    NamePurpose(*imcPlayer_, QStringLiteral("Player"));
-    NamePurpose(*imcGames_, QStringLiteral("Game"));
-    NamePurpose(*imcDate_, QStringLiteral("Time"));
+    NamePurpose(*imcPlayer_, tr("Player"));
+    NamePurpose(*imcGames_, tr("Game"));
+    NamePurpose(*imcDate_, tr("Time"));
 
     auto* filters = new QHBoxLayout;
     for (QComboBox* combo : {imcPlayer_, imcGames_, imcDate_}) {
@@ -61,12 +62,12 @@ LogDialog::LogDialog(Engine& engine, QWidget* parent)
     });
     connect(view_, &ReportView::DealAsked, this, &LogDialog::DealAsked);
     connect(view_, &ReportView::CopyCut, this, [this](int rows) {
-        totals_->setText(QStringLiteral("The first %1 of the selected rows were copied; \"Export "
-                                        "Statistics\" in Game Statistics writes all of them.")
+        totals_->setText(tr("The first %1 of the selected rows were copied; \"Export "
+                            "Statistics\" in Game Statistics writes all of them.")
                              .arg(locale().toString(rows)));
     });
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* all = new QVBoxLayout(this);
     all->addLayout(filters);
@@ -89,19 +90,18 @@ void LogDialog::FillLog() {
         .Game = Chosen(*imcGames_),
         .Age = &AgeChoices()[static_cast<std::size_t>(imcDate_->currentIndex())]};
     lvLog_->SetPositions(LogPositions(engine_.score().List(), filter, engine_.Now()));
-    view_->SetEmptyText(engine_.score().ScoreTop() == 0
-                            ? QStringLiteral("Nothing played yet.")
-                            : QStringLiteral("No game passes these filters."));
+    view_->SetEmptyText(engine_.score().ScoreTop() == 0 ? tr("Nothing played yet.")
+                                                        : tr("No game passes these filters."));
     const LogTotals totals = TotalsOf(engine_.score().List(), lvLog_->Positions());
-    if (totals.Sum.Played == 0) return totals_->setText(QStringLiteral("No games"));
-    totals_->setText(
-        QStringLiteral("%1, %2 won (%3%)   Time: %4   Best score: %5")
-            .arg(totals.Sum.Played == 1
-                     ? QStringLiteral("1 game")
-                     : QStringLiteral("%1 games").arg(locale().toString(totals.Sum.Played)),
-                 locale().toString(totals.Sum.Won),
-                 locale().toString(100.0 * totals.Sum.Won / totals.Sum.Played, 'f', 1),
-                 ToQt(FormatTime(totals.Sum.Time)), locale().toString(totals.BestScore)));
+    if (totals.Sum.Played == 0) return totals_->setText(tr("No games"));
+    const QString sentence =
+        totals.Sum.Played == 1
+            ? tr("1 game, %1 won (%2%)   Time: %3   Best score: %4")
+            : tr("%Ln games, %1 won (%2%)   Time: %3   Best score: %4", nullptr, totals.Sum.Played);
+    totals_->setText(sentence.arg(
+        locale().toString(totals.Sum.Won),
+        locale().toString(100.0 * totals.Sum.Won / totals.Sum.Played, 'f', 1),
+        Localized(PhraseWord(Duration{totals.Sum.Time})), locale().toString(totals.BestScore)));
 }
 
 }  // namespace varnello

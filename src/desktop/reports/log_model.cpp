@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/report_order.h"
 
 namespace varnello {
@@ -87,16 +88,16 @@ QStringList LogModel::DateTexts() const {
 QStringList LogModel::WidestTexts(int column) const {
     if (positions_.empty()) return {};
     const auto texts = [](const std::int32_t(&range)[2], auto cellOf) {
-        return QStringList{ToQt(cellOf(range[0]).Text), ToQt(cellOf(range[1]).Text)};
+        return QStringList{Localized(cellOf(range[0])), Localized(cellOf(range[1]))};
     };
     switch (kLogColumns[static_cast<std::size_t>(column)].Field) {
-        case RecordField::Number: return {QString::number(Count())};
+        case RecordField::Number: return {AsFigure(Count())};
         case RecordField::Player: return TextsOf(list_.Players(), extent_.players);
         case RecordField::Game: return TextsOf(list_.Games(), extent_.games);
         case RecordField::Score: return texts(extent_.scores, NumberCell);
         case RecordField::Moves: return texts(extent_.moves, NumberCell);
         case RecordField::Time: return texts(extent_.times, TimeCell);
-        case RecordField::Status: return {ToQt(WonLostText(0)), ToQt(WonLostText(1))};
+        case RecordField::Status: return {Localized(WonLostText(0)), Localized(WonLostText(1))};
         case RecordField::Date: return DateTexts();
         case RecordField::GameNo: break;
     }

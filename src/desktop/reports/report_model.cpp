@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/report_order.h"
 
 namespace varnello {
@@ -34,7 +35,7 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
                 cached_ = RowAt(row);
                 cachedRow_ = row;
             }
-            return ToQt(cached_.at(static_cast<std::size_t>(index.column())).Text);
+            return Localized(cached_.at(static_cast<std::size_t>(index.column())));
         }
         case Qt::TextAlignmentRole: return headerData(index.column(), Qt::Horizontal, role);
         case Qt::DecorationRole:
@@ -56,7 +57,7 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
 void ReportModel::SetColumns(const std::vector<Column>& columns) {
     headings_.clear();
     for (const Column& column : columns) {
-        headings_ << Heading{ToQt(column.Title), column.Kind};
+        headings_ << Heading{Localized(column.Title), column.Kind};
     }
 }
 
@@ -137,17 +138,19 @@ std::optional<QColor> RowsModel::ColourOf(int row) const {
 
 QStringList RowsModel::WidestTexts(int column) const {
     QStringList texts;
-    for (const ReportRow& row : rows_) texts << ToQt(row[static_cast<std::size_t>(column)].Text);
+    for (const ReportRow& row : rows_) texts << Localized(row[static_cast<std::size_t>(column)]);
     return texts;
 }
 
 std::vector<double> RowsModel::SortValues(int column) const {
-    if (KindOf(column) == ColumnKind::Text) return AlphabetOf(WidestTexts(column));
     std::vector<double> values;
+    QStringList texts;  // as the engine has them: an order doesn't depend on the language
     for (const ReportRow& row : rows_) {
-        values.push_back(row[static_cast<std::size_t>(column)].Value);
+        const ReportCell& cell = row[static_cast<std::size_t>(column)];
+        texts << ToQt(cell.Text);
+        values.push_back(cell.Value);
     }
-    return values;
+    return KindOf(column) == ColumnKind::Text ? AlphabetOf(texts) : values;
 }
 
 }  // namespace varnello

@@ -13,6 +13,7 @@
 #include <numeric>
 
 #include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/report_cells.h"
 
 namespace varnello {
@@ -208,8 +209,8 @@ void ReportView::contextMenuEvent(QContextMenuEvent* event) {
     const auto deal = CurrentDeal();
     if (!deal) return;
     QMenu menu(this);
-    QAction* play = menu.addAction(QStringLiteral("&Play This Deal..."));
-    QAction* copy = menu.addAction(QStringLiteral("&Copy Number"));
+    QAction* play = menu.addAction(tr("&Play This Deal..."));
+    QAction* copy = menu.addAction(tr("&Copy Number"));
     menu.setDefaultAction(play);
     const QRect row = visualRect(currentIndex());
     const QAction* chosen =
@@ -250,7 +251,7 @@ void ReportView::CopyRows() {
             const ReportRow cells = model_->RowAt(model_->Original(row));
             for (std::size_t column = 0; column < cells.size(); ++column) {
                 if (column > 0) text += QLatin1Char('\t');
-                text += ToQt(cells[column].Text);
+                text += Localized(cells[column]);
             }
         }
     }

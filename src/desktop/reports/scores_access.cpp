@@ -1,5 +1,6 @@
 #include "desktop/reports/scores_access.h"
 
+#include <QCoreApplication>
 #include <memory>
 
 #include "desktop/platform/questions.h"
@@ -9,11 +10,15 @@ namespace varnello {
 
 namespace {
 
+struct Work {
+    Q_DECLARE_TR_FUNCTIONS(Scores)
+};
+
 /// Nothing when a person has stopped it.
 std::optional<LoadedScores> Load(const std::vector<ScoreFile>& files, QWidget* parent) {
     const auto loaded = std::make_shared<LoadedScores>();
     const bool done =
-        DoWatched(parent, QStringLiteral("Reading the results..."), BytesOf(files),
+        DoWatched(parent, Work::tr("Reading the results..."), BytesOf(files),
                   [files, loaded](Progress& progress) { *loaded = LoadScores(files, progress); });
     return done ? std::optional{std::move(*loaded)} : std::nullopt;
 }
@@ -38,7 +43,7 @@ void ExportScores(Engine& engine, QWidget* parent) {
     const auto report = std::make_shared<StatExport>(engine.results().PrepareExport(*file));
     const auto written = std::make_shared<bool>(false);
     const bool done =
-        DoWatched(parent, QStringLiteral("Writing the results..."), report->Whole(),
+        DoWatched(parent, Work::tr("Writing the results..."), report->Whole(),
                   [report, written](Progress& progress) { *written = report->Run(progress); });
     if (done && *written) engine.results().TellExport(*file, *report);
 }

@@ -12,6 +12,7 @@
 #include "desktop/charts/share_chart.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/window_memory.h"
+#include "desktop/platform/words.h"
 
 namespace varnello {
 namespace {
@@ -35,8 +36,8 @@ GameFigures RunningFigures(const cData& data) {
     return {data.CurScore, data.CurMoves, data.CurTime};
 }
 
-QLabel* AddLabel(QVBoxLayout* rows, const std::string& text) {
-    auto* label = new QLabel(ToQt(text));
+QLabel* AddLabel(QVBoxLayout* rows, const Phrase& text) {
+    auto* label = new QLabel(Localized(text));
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * kLabelShown);
@@ -53,17 +54,17 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
       SSTab1_(new QTabWidget),
       lvSession_(new RowsModel(ColumnsOf(kSessionColumns))),
       lvSesChart_(new RowsModel(ColumnsOf(kDetailColumns))),
-      sessionView_(new ReportView(lvSession_, QStringLiteral("Games of this session"))),
-      detailView_(new ReportView(lvSesChart_, QStringLiteral("Games of this session by figures"))),
-      chSummary_(new ShareChart(QStringLiteral("Games won and lost"))),
-      chChart_(new RowChart(QStringLiteral("Score, moves and time game by game"))),
+      sessionView_(new ReportView(lvSession_, tr("Games of this session"))),
+      detailView_(new ReportView(lvSesChart_, tr("Games of this session by figures"))),
+      chSummary_(new ShareChart(tr("Games won and lost"))),
+      chChart_(new RowChart(tr("Score, moves and time game by game"))),
       running_(engine.data().GameRunning) {
-    setWindowTitle(QStringLiteral("Session Statistics"));
+    setWindowTitle(tr("Session Statistics"));
     setWindowIcon(SmallIcon(QStringLiteral("statistics")));
-    SSTab1_->addTab(MakeSummary(), QStringLiteral("Summary"));
-    SSTab1_->addTab(MakeDetails(), QStringLiteral("Session Details"));
+    SSTab1_->addTab(MakeSummary(), tr("Summary"));
+    SSTab1_->addTab(MakeDetails(), tr("Session Details"));
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* all = new QVBoxLayout(this);
     all->addWidget(SSTab1_);
@@ -72,7 +73,7 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
     lvSession_->SetIcons([this](int row) { return GameMark(DealAt(row).Game); });
     sessionView_->setIconSize(kGameMarkSize);
     for (ReportView* view : {sessionView_, detailView_}) {
-        view->SetEmptyText(QStringLiteral("No game was played in this session yet."));
+        view->SetEmptyText(tr("No game was played in this session yet."));
         view->OfferDeals([this](int row) -> std::optional<GameChoice> { return DealAt(row); });
         connect(view, &ReportView::DealAsked, this, &SessionDialog::DealAsked);
     }
@@ -98,16 +99,15 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
 }
 
 QWidget* SessionDialog::MakeThisSession() {
-    auto* frame = new QGroupBox(QStringLiteral("This Session"));
+    auto* frame = new QGroupBox(tr("This Session"));
     auto* rows = new QVBoxLayout(frame);
-    for (const std::string& text : SessionLabels(engine_))
-        lblSesElapsedTime_ = AddLabel(rows, text);
+    for (const Phrase& text : SessionLabels(engine_)) lblSesElapsedTime_ = AddLabel(rows, text);
     rows->addStretch();
     return frame;
 }
 
 QWidget* SessionDialog::MakeThisGame() {
-    auto* frame = new QGroupBox(QStringLiteral("This Game"));
+    auto* frame = new QGroupBox(tr("This Game"));
     auto* rows = new QVBoxLayout(frame);
     const GameLabels labels = GameLabelsOf(engine_);
     AddLabel(rows, labels.Started);
@@ -136,7 +136,7 @@ QWidget* SessionDialog::MakeSummary() {
 QWidget* SessionDialog::MakeDetails() {
     auto* page = new QWidget;
     auto* row = new QHBoxLayout(page);
-    auto* cmdRefresh = new QPushButton(QStringLiteral("Refresh Chart"));
+    auto* cmdRefresh = new QPushButton(tr("Refresh Chart"));
     cmdRefresh->setAutoDefault(false);
     connect(cmdRefresh, &QPushButton::clicked, this, &SessionDialog::RefreshChart);
     auto* right = new QVBoxLayout;
@@ -158,14 +158,14 @@ void SessionDialog::FillTable() {
 }
 
 void SessionDialog::Tick() {
-    lblSesElapsedTime_->setText(ToQt(SessionElapsedLabel(engine_)));
+    lblSesElapsedTime_->setText(Localized(SessionElapsedLabel(engine_)));
     if (!running_ || !engine_.data().GameRunning) return;
     const int row = static_cast<int>(table_.size()) - 1;
     lvSession_->UpdateRow(row, RunningRow(engine_, kSessionColumns), Ticking(kSessionColumns));
     lvSesChart_->UpdateRow(row, RunningRow(engine_, kDetailColumns), Ticking(kDetailColumns));
     const GameLabels labels = GameLabelsOf(engine_);
-    lblGameScore_->setText(ToQt(labels.Score));
-    lblGameTime_->setText(ToQt(labels.Time));
+    lblGameScore_->setText(Localized(labels.Score));
+    lblGameTime_->setText(Localized(labels.Time));
 }
 
 void SessionDialog::RefreshChart() {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "desktop/platform/text.h"
+#include "desktop/platform/words.h"
 
 namespace varnello {
 namespace {
@@ -45,7 +45,11 @@ CounterLabel::CounterLabel(QMenuBar& bar) : QLabel(&bar), bar_(bar) {
 
 void CounterLabel::ShowCounters(const CounterCaptions& captions) {
     const QSize before = sizeHint();
-    const std::array now{ToQt(captions.mScore), ToQt(captions.mTime), ToQt(captions.mMoves)};
+    const auto textOf = [](const std::optional<Phrase>& caption) {
+        return caption ? Localized(*caption) : QString();
+    };
+    const std::array now{textOf(captions.mScore), textOf(captions.mTime),
+                         textOf(captions.mMoves)};
     QStringList shown;
     for (std::size_t i = 0; i < now.size(); ++i) {
         const int digits = std::max({counters_[i].digits, DigitsIn(now[i]), kLeastDigits});
@@ -62,8 +66,8 @@ void CounterLabel::ShowCounters(const CounterCaptions& captions) {
 
 int CounterLabel::DigitWidth() const {
     int widest = 0;
-    for (char digit = '0'; digit <= '9'; ++digit) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(QLatin1Char(digit)));
+    for (const QChar digit : InDigits(QStringLiteral("0123456789"))) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(digit));
     }
     return widest;
 }

@@ -45,21 +45,21 @@ void MainMenu::Add(QMenu* menu, QAction*& item, const QString& caption, const QK
 }
 
 void MainMenu::BuildFile() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("&File"));
-    AddStart(menu, file_[FileItem::New], QStringLiteral("&New Game"), Qt::Key_F2,
+    QMenu* menu = bar_.addMenu(tr("&File"));
+    AddStart(menu, file_[FileItem::New], tr("&New Game"), Qt::Key_F2,
              [this] { engine_.commands().NewGame(); });
-    AddStart(menu, file_[FileItem::Select], QStringLiteral("&Select Game"), Qt::Key_F3,
+    AddStart(menu, file_[FileItem::Select], tr("&Select Game"), Qt::Key_F3,
              [this] { shell_.ShowSelect(); });
     menu->addSeparator();
-    AddStart(menu, file_[FileItem::Restart], QStringLiteral("&Restart Game"), Qt::CTRL | Qt::Key_F3,
+    AddStart(menu, file_[FileItem::Restart], tr("&Restart Game"), Qt::CTRL | Qt::Key_F3,
              [this] { engine_.commands().RestartGame(); });
-    Add(menu, file_[FileItem::Close], QStringLiteral("&Close Game"), Qt::CTRL | Qt::Key_F1,
+    Add(menu, file_[FileItem::Close], tr("&Close Game"), Qt::CTRL | Qt::Key_F1,
         [this] { engine_.commands().CloseGame(); });
     menu->addSeparator();
-    AddStart(menu, file_[FileItem::Number], QStringLiteral("Select a Number"),
-             Qt::SHIFT | Qt::Key_F2, [this] { shell_.ShowChoose(); });
+    AddStart(menu, file_[FileItem::Number], tr("Select a Number"), Qt::SHIFT | Qt::Key_F2,
+             [this] { shell_.ShowChoose(); });
     menu->addSeparator();
-    QMenu* recent = menu->addMenu(QStringLiteral("Recent Games"));
+    QMenu* recent = menu->addMenu(tr("Recent Games"));
     file_[FileItem::Recent] = recent->menuAction();
     for (int i = 1; i <= kMaxRecent; ++i) {
         AddStart(recent, recent_[static_cast<std::size_t>(i)], {}, {},
@@ -67,25 +67,25 @@ void MainMenu::BuildFile() {
     }
     menu->addSeparator();
     // Ends the process at once: a running game leaves no record.
-    Add(menu, file_[FileItem::Exit], QStringLiteral("E&xit"), {}, [] { std::_Exit(0); });
+    Add(menu, file_[FileItem::Exit], tr("E&xit"), {}, [] { std::_Exit(0); });
 }
 
 void MainMenu::BuildGame() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("&Game"));
-    Add(menu, game_[GameItem::Undo], QStringLiteral("&Undo"), Qt::CTRL | Qt::Key_Z,
+    QMenu* menu = bar_.addMenu(tr("&Game"));
+    Add(menu, game_[GameItem::Undo], tr("&Undo"), Qt::CTRL | Qt::Key_Z,
         [this] { engine_.commands().Undo(); });
-    Add(menu, game_[GameItem::Redo], QStringLiteral("&Redo"), Qt::CTRL | Qt::Key_X,
+    Add(menu, game_[GameItem::Redo], tr("&Redo"), Qt::CTRL | Qt::Key_X,
         [this] { engine_.commands().Redo(); });
     menu->addSeparator();
-    Add(menu, game_[GameItem::Autoplay], QStringLiteral("Autoplay"), Qt::Key_F7,
+    Add(menu, game_[GameItem::Autoplay], tr("Autoplay"), Qt::Key_F7,
         [this] { engine_.commands().ToggleAutoplay(); });
     menu->addSeparator();
-    Add(menu, game_[GameItem::UndoAll], QStringLiteral("U&ndo All"), Qt::CTRL | Qt::Key_C,
+    Add(menu, game_[GameItem::UndoAll], tr("U&ndo All"), Qt::CTRL | Qt::Key_C,
         [this] { engine_.commands().UndoAll(); });
-    Add(menu, game_[GameItem::RedoAll], QStringLiteral("R&edo All"), Qt::CTRL | Qt::Key_V,
+    Add(menu, game_[GameItem::RedoAll], tr("R&edo All"), Qt::CTRL | Qt::Key_V,
         [this] { engine_.commands().RedoAll(); });
     menu->addSeparator();
-    Add(menu, game_[GameItem::Toolbar], QStringLiteral("View Toolbar"), {}, [this] {
+    Add(menu, game_[GameItem::Toolbar], tr("View Toolbar"), {}, [this] {
         engine_.commands().ToggleToolbar();
         shell_.LayoutMain();
     });
@@ -94,64 +94,61 @@ void MainMenu::BuildGame() {
 }
 
 void MainMenu::BuildReplay() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("&Replay"));
-    Add(menu, replay_[ReplayItem::Forward], QStringLiteral("&Forward"), Qt::SHIFT | Qt::Key_F3,
+    QMenu* menu = bar_.addMenu(tr("&Replay"));
+    Add(menu, replay_[ReplayItem::Forward], tr("&Forward"), Qt::SHIFT | Qt::Key_F3,
         [this] { engine_.commands().ReplayForward(); });
-    Add(menu, replay_[ReplayItem::Back], QStringLiteral("&Back"), Qt::SHIFT | Qt::Key_F4,
+    Add(menu, replay_[ReplayItem::Back], tr("&Back"), Qt::SHIFT | Qt::Key_F4,
         [this] { engine_.commands().ReplayBack(); });
     menu->addSeparator();
-    Add(menu, replay_[ReplayItem::All], QStringLiteral("Replay &All"), {},
+    Add(menu, replay_[ReplayItem::All], tr("Replay &All"), {},
         [this] { engine_.commands().ReplayAll(); });
     menu->addSeparator();
-    Add(menu, replay_[ReplayItem::Stop], QStringLiteral("Sto&p"), {},
+    Add(menu, replay_[ReplayItem::Stop], tr("Sto&p"), {},
         [this] { engine_.commands().StopReplay(); });
 }
 
 void MainMenu::BuildFavorites() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("Favorites"));
-    Add(menu, fav_[FavItem::Add], QStringLiteral("&Add to Favorites"), Qt::CTRL | Qt::Key_A,
+    QMenu* menu = bar_.addMenu(tr("Favorites"));
+    Add(menu, fav_[FavItem::Add], tr("&Add to Favorites"), Qt::CTRL | Qt::Key_A,
         [this] { engine_.commands().AddFavorite(); });
-    Add(menu, fav_[FavItem::Organize], QStringLiteral("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
+    Add(menu, fav_[FavItem::Organize], tr("&Organize Favorites"), Qt::CTRL | Qt::Key_F,
         [this] { shell_.ShowOrganizeFavorites(); });
     menu->addSeparator();
-    AddStart(menu, fav_[FavItem::Play], QStringLiteral("&Play from Favorites"),
-             Qt::CTRL | Qt::Key_P, [this] { shell_.ShowPlayFavorites(); });
+    AddStart(menu, fav_[FavItem::Play], tr("&Play from Favorites"), Qt::CTRL | Qt::Key_P,
+             [this] { shell_.ShowPlayFavorites(); });
 }
 
 void MainMenu::BuildStatistics() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("Statistics"));
-    Add(menu, stat_[StatItem::Game], QStringLiteral("&Game Statistics"), Qt::Key_F4,
+    QMenu* menu = bar_.addMenu(tr("Statistics"));
+    Add(menu, stat_[StatItem::Game], tr("&Game Statistics"), Qt::Key_F4,
         [this] { shell_.ShowGameStat(); });
-    Add(menu, stat_[StatItem::Session], QStringLiteral("&Session Statistics"), {},
+    Add(menu, stat_[StatItem::Session], tr("&Session Statistics"), {},
         [this] { shell_.ShowSesStat(); });
     menu->addSeparator();
-    Add(menu, stat_[StatItem::HighScore], QStringLiteral("&High Scores"), Qt::Key_F9,
+    Add(menu, stat_[StatItem::HighScore], tr("&High Scores"), Qt::Key_F9,
         [this] { shell_.ShowHighScore(); });
     menu->addSeparator();
-    Add(menu, stat_[StatItem::Log], QStringLiteral("&Log Statistics"), {},
-        [this] { shell_.ShowLogStat(); });
+    Add(menu, stat_[StatItem::Log], tr("&Log Statistics"), {}, [this] { shell_.ShowLogStat(); });
 }
 
 void MainMenu::BuildTools() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("&Tools"));
-    Add(menu, tools_[ToolsItem::Customize], QStringLiteral("Customize"), Qt::CTRL | Qt::Key_U,
+    QMenu* menu = bar_.addMenu(tr("&Tools"));
+    Add(menu, tools_[ToolsItem::Customize], tr("Customize"), Qt::CTRL | Qt::Key_U,
         [this] { shell_.ShowCustomize(); });
     menu->addSeparator();
-    Add(menu, tools_[ToolsItem::Players], QStringLiteral("&Players"), Qt::CTRL | Qt::Key_L,
+    Add(menu, tools_[ToolsItem::Players], tr("&Players"), Qt::CTRL | Qt::Key_L,
         [this] { shell_.ShowPlayers(); });
     menu->addSeparator();
-    Add(menu, tools_[ToolsItem::History], QStringLiteral("&History"), Qt::CTRL | Qt::Key_H,
+    Add(menu, tools_[ToolsItem::History], tr("&History"), Qt::CTRL | Qt::Key_H,
         [this] { shell_.ShowHistory(); });
 }
 
 void MainMenu::BuildHelp() {
-    QMenu* menu = bar_.addMenu(QStringLiteral("&Help"));
-    Add(menu, help_[HelpItem::Rules], QStringLiteral("Rules"), Qt::Key_F1,
-        [this] { shell_.ShowHelp(); });
-    Add(menu, help_[HelpItem::Contents], QStringLiteral("Contents"), {},
-        [this] { shell_.ShowContents(); });
+    QMenu* menu = bar_.addMenu(tr("&Help"));
+    Add(menu, help_[HelpItem::Rules], tr("Rules"), Qt::Key_F1, [this] { shell_.ShowHelp(); });
+    Add(menu, help_[HelpItem::Contents], tr("Contents"), {}, [this] { shell_.ShowContents(); });
     menu->addSeparator();
-    Add(menu, help_[HelpItem::About], QStringLiteral("About %1...").arg(ToQt(kProductName)), {},
+    Add(menu, help_[HelpItem::About], tr("About %1...").arg(ToQt(kProductName)), {},
         [this] { shell_.ShowAbout(); });
 }
 

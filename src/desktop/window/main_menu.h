@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenuBar>
 #include <array>
 
@@ -48,6 +49,8 @@ private:
 
 /// The menu bar of the main window, with the counters at its right end.
 class MainMenu {
+    Q_DECLARE_TR_FUNCTIONS(MainMenu)
+
 public:
     MainMenu(QMenuBar& bar, Engine& engine, Shell& shell);
 

@@ -16,6 +16,7 @@
 #include "desktop/platform/questions.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/type_ahead.h"
+#include "desktop/platform/words.h"
 #include "desktop/reports/finish_dialog.h"
 #include "desktop/reports/game_stat_dialog.h"
 #include "desktop/reports/high_score_dialog.h"
@@ -227,7 +228,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::EndSession() {
     engine_->Leave();
-    for (const Message& message : messages_) qWarning("%s", message.text.c_str());
+    for (const Message& message : messages_) {
+        qWarning("%s", qPrintable(Localized(message.text)));
+    }
     messages_.clear();
     Q_EMIT Closed();
 }
@@ -342,13 +345,13 @@ QWidget* MainWindow::Front() {
     return modal ? modal : this;
 }
 
-void MainWindow::Inform(const std::string& text) { Tell(QMessageBox::Information, text); }
+void MainWindow::Inform(const Phrase& text) { Tell(QMessageBox::Information, text); }
 
-void MainWindow::Refuse(const std::string& text) { Tell(QMessageBox::Critical, text); }
+void MainWindow::Refuse(const Phrase& text) { Tell(QMessageBox::Critical, text); }
 
-void MainWindow::Warn(const std::string& text) { Tell(QMessageBox::Warning, text); }
+void MainWindow::Warn(const Phrase& text) { Tell(QMessageBox::Warning, text); }
 
-void MainWindow::Tell(QMessageBox::Icon icon, const std::string& text) {
+void MainWindow::Tell(QMessageBox::Icon icon, const Phrase& text) {
     messages_.push_back({icon, text});
     QMetaObject::invokeMethod(this, &MainWindow::ShowMessages, Qt::QueuedConnection);
 }

@@ -54,9 +54,9 @@ public:
     const Toolbar& toolbar() const { return *toolbar_; }
     SelectDialog* select() const { return select_; }
 
-    void Inform(const std::string& text) override;
-    void Refuse(const std::string& text) override;
-    void Warn(const std::string& text) override;
+    void Inform(const Phrase& text) override;
+    void Refuse(const Phrase& text) override;
+    void Warn(const Phrase& text) override;
 
 Q_SIGNALS:
     /// The window is gone and with it the program.
@@ -68,11 +68,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Tell(QMessageBox::Icon icon, const std::string& text);
+    void Tell(QMessageBox::Icon icon, const Phrase& text);
 
     struct Message {
         QMessageBox::Icon icon;
-        std::string text;
+        Phrase text;
     };
 
     /// Starts what a dialog has chosen, if anything.

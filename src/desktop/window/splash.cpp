@@ -45,7 +45,7 @@ void Splash::paintEvent(QPaintEvent*) {
     title.paint(&painter, QRect(QPoint((width() - kTitleSize.width()) / 2, kTitleTop), kTitleSize));
     painter.setPen(QColor(0x5A, 0x5A, 0x5A));
     painter.drawText(rect().adjusted(0, 0, 0, -kVersionBottom), Qt::AlignHCenter | Qt::AlignBottom,
-                     QStringLiteral("Version : ") + ToQt(kVersion));
+                     tr("Version : %1").arg(ToQt(kVersion)));
 }
 
 void Splash::mousePressEvent(QMouseEvent*) { End(); }

@@ -26,15 +26,15 @@ Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent), menu_
     strip->setContentsMargins(2, 0, 2, 0);
     strip->setSpacing(0);
 
-    const auto button = [&](int index, const char* icon, const char* tip, QAction* item) {
+    const auto button = [&](int index, const char* icon, const QString& tip, QAction* item) {
         auto* made = new QToolButton(this);
         made->setIcon(SmallIcon(QString::fromLatin1(icon)));
         made->setIconSize(QSize(16, 16));
         made->setFixedSize(kButton);
         made->setAutoRaise(true);
         made->setFocusPolicy(Qt::NoFocus);
-        made->setToolTip(QString::fromLatin1(tip));
-        made->setAccessibleName(QString::fromLatin1(tip));
+        made->setToolTip(tip);
+        made->setAccessibleName(tip);
         connect(made, &QToolButton::clicked, item, &QAction::trigger);
         strip->addWidget(made);
         buttons_[static_cast<std::size_t>(index)] = made;
@@ -42,22 +42,22 @@ Toolbar::Toolbar(const MainMenu& menu, QWidget* parent) : QWidget(parent), menu_
     };
     const auto separator = [&] { strip->addWidget(Separator(this)); };
 
-    button(1, "new", "New Game", menu.mFile(FileItem::New));
-    button(2, "select", "Select Game", menu.mFile(FileItem::Select));
-    button(3, "restart", "Restart Game", menu.mFile(FileItem::Restart));
+    button(1, "new", tr("New Game"), menu.mFile(FileItem::New));
+    button(2, "select", tr("Select Game"), menu.mFile(FileItem::Select));
+    button(3, "restart", tr("Restart Game"), menu.mFile(FileItem::Restart));
     separator();
-    button(5, "autoplay", "Autoplay", menu.mGame(GameItem::Autoplay));
+    button(5, "autoplay", tr("Autoplay"), menu.mGame(GameItem::Autoplay));
     separator();
-    button(7, "undo", "Undo", menu.mGame(GameItem::Undo));
-    button(8, "redo", "Redo", menu.mGame(GameItem::Redo));
+    button(7, "undo", tr("Undo"), menu.mGame(GameItem::Undo));
+    button(8, "redo", tr("Redo"), menu.mGame(GameItem::Redo));
     separator();
-    button(10, "back", "Replay Back", menu.mReplay(ReplayItem::Back));
-    button(11, "stop", "Replay Stop", menu.mReplay(ReplayItem::Stop));
-    button(12, "forward", "Replay Forward", menu.mReplay(ReplayItem::Forward));
+    button(10, "back", tr("Replay Back"), menu.mReplay(ReplayItem::Back));
+    button(11, "stop", tr("Replay Stop"), menu.mReplay(ReplayItem::Stop));
+    button(12, "forward", tr("Replay Forward"), menu.mReplay(ReplayItem::Forward));
     separator();
-    button(14, "statistics", "Statistics", menu.mStat(StatItem::Game));
+    button(14, "statistics", tr("Statistics"), menu.mStat(StatItem::Game));
     separator();
-    button(16, "help", "Help", menu.mHelp(HelpItem::Rules));
+    button(16, "help", tr("Help"), menu.mHelp(HelpItem::Rules));
     strip->addStretch();
     Button(5)->setCheckable(true);
 }

@@ -55,6 +55,11 @@ private:
     bool sound_ = true;
 };
 
+std::string MonthName(const DateTime& moment) {
+    static constexpr std::string_view kNames = "JanFebMarAprMayJunJulAugSepOctNovDec";
+    return std::string(kNames.substr(static_cast<std::size_t>(moment.month - 1) * 3, 3));
+}
+
 }  // namespace
 
 bool IsValid(const DateTime& moment) {
@@ -108,9 +113,12 @@ std::string ShortDateText(const DateTime& moment) {
     return std::to_string(moment.month) + '/' + std::to_string(moment.day) + '/' + year;
 }
 
-std::string_view MonthName(int month) {
-    static constexpr std::string_view kNames = "JanFebMarAprMayJunJulAugSepOctNovDec";
-    return kNames.substr(static_cast<std::size_t>(month - 1) * 3, 3);
+std::string DayText(const DateTime& moment) {
+    return MonthName(moment) + ' ' + TwoDigits(moment.day);
+}
+
+std::string MonthText(const DateTime& moment) {
+    return MonthName(moment) + ' ' + TwoDigits(moment.year % 100);
 }
 
 std::string DateText(const DateTime& moment) {

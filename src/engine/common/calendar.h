@@ -49,8 +49,9 @@ std::optional<std::int32_t> ParseTimeText(std::string_view text);
 /// The date alone, as in "11/18/2026".
 std::string ShortDateText(const DateTime& moment);
 
-/// A month's name in three letters; `month` from 1 to 12.
-std::string_view MonthName(int month);
+/// A day without its year, as in "Nov 18", and a month, as in "Nov 26".
+std::string DayText(const DateTime& moment);
+std::string MonthText(const DateTime& moment);
 
 /// A duration in seconds as h:mm:ss. Hours aren't folded into days: 49:02:05.
 std::string FormatTime(std::int32_t seconds);

@@ -9,52 +9,57 @@
 namespace varnello {
 namespace {
 
-using Sentences = std::vector<RuleSentence>;
+using say::Text;
+using Sentences = std::vector<Phrase>;
 
 std::string_view OneOfRank(int rank) {
     constexpr std::array<std::string_view, kRanks> kWords{
-        "an Ace", "a 2", "a 3",  "a 4",    "a 5",     "a 6",   "a 7",
-        "an 8",   "a 9", "a 10", "a Jack", "a Queen", "a King"};
+        Text("an Ace"), Text("a 2"),     Text("a 3"),   Text("a 4"), Text("a 5"),
+        Text("a 6"),    Text("a 7"),     Text("an 8"),  Text("a 9"), Text("a 10"),
+        Text("a Jack"), Text("a Queen"), Text("a King")};
     return kWords.at(static_cast<std::size_t>(rank));
 }
 
 std::string_view Ranks(GoalType type) {
     switch (type) {
-        case GoalType::Twos: return "2s";
-        case GoalType::Kings: return "Kings";
+        case GoalType::Twos: return Text("2s");
+        case GoalType::Kings: return Text("Kings");
         default: break;
     }
-    return "Aces";
+    return Text("Aces");
 }
 
 /// In a deck of one suit nobody asks for the suit.
 std::string_view OrderWords(const GameRow& row, OrderCode order) {
     const bool oneSuit = SuitsOf(row) == 1;
     switch (order) {
-        case OrderCode::DownSuit: return oneSuit ? "down" : "down in suit";
-        case OrderCode::UpSuit: return oneSuit ? "up" : "up in suit";
-        case OrderCode::EitherSuit: return oneSuit ? "up or down" : "up or down in suit";
-        case OrderCode::DownColor: return "down in alternating colours";
-        case OrderCode::UpColor: return "up in alternating colours";
-        case OrderCode::EitherColor: return "up or down in alternating colours";
-        case OrderCode::DownAny: return oneSuit ? "down" : "down regardless of suit";
-        case OrderCode::UpAny: return oneSuit ? "up" : "up regardless of suit";
-        case OrderCode::EitherAny: return oneSuit ? "up or down" : "up or down regardless of suit";
+        case OrderCode::DownSuit: return oneSuit ? Text("down") : Text("down in suit");
+        case OrderCode::UpSuit: return oneSuit ? Text("up") : Text("up in suit");
+        case OrderCode::EitherSuit:
+            return oneSuit ? Text("up or down") : Text("up or down in suit");
+        case OrderCode::DownColor: return Text("down in alternating colours");
+        case OrderCode::UpColor: return Text("up in alternating colours");
+        case OrderCode::EitherColor: return Text("up or down in alternating colours");
+        case OrderCode::DownAny: return oneSuit ? Text("down") : Text("down regardless of suit");
+        case OrderCode::UpAny: return oneSuit ? Text("up") : Text("up regardless of suit");
+        case OrderCode::EitherAny:
+            return oneSuit ? Text("up or down") : Text("up or down regardless of suit");
         case OrderCode::Anything:
         case OrderCode::Nothing: break;
     }
-    return "in any order";
+    return Text("in any order");
 }
 
 /// How a run lies from King down to Ace, by the order in which it goes up.
 std::string_view RunWords(OrderCode order) {
-    if (order == OrderCode::UpSuit) return "in suit";
-    return order == OrderCode::UpColor ? "in alternating colours" : "regardless of suit";
+    if (order == OrderCode::UpSuit) return Text("in suit");
+    return order == OrderCode::UpColor ? Text("in alternating colours")
+                                       : Text("regardless of suit");
 }
 
 bool IsSpider(const GameRow& row) { return row.Ext.Tag == Tag::Spider; }
 
-RuleSentence Pack(const GameRow& row) {
+Phrase Pack(const GameRow& row) {
     if (SuitsOf(row) == 1) return {say::kOneSuit, row.Ext.TotalCards};
     if (row.Ext.TotalCards == 104) return {say::kTwoPacks};
     if (row.Ext.TotalCards == 52) return {say::kOnePack};
@@ -75,7 +80,7 @@ Sentences Aim(const GameRow& row) {
     return aim;
 }
 
-RuleSentence Tableau(const GameRow& row) {
+Phrase Tableau(const GameRow& row) {
     const int piles = row.Home.Piles;
     const int cards = row.Home.Cards;
     const int suits = SuitsOf(row);
@@ -87,7 +92,7 @@ RuleSentence Tableau(const GameRow& row) {
         case HomeType::BySuit:
             if (row.Ext.TotalCards != kBySuitCards) return {say::kSomeBySuit, piles, {suits}};
             if (piles == suits) return {say::kBySuitExactly, piles};
-            return {say::kBySuit, piles, {suits == 4 ? "four" : "two"}};
+            return {say::kBySuit, piles, {suits == 4 ? Text("four") : Text("two")}};
         case HomeType::Cone: return {piles == 9 ? say::kCone : say::kWideCone, piles};
         case HomeType::AtRandom:
             return {cards == row.Ext.TotalCards ? say::kAtRandom : say::kRestAtRandom, piles};
@@ -97,7 +102,7 @@ RuleSentence Tableau(const GameRow& row) {
     return {say::kRows, piles, {cards}};
 }
 
-RuleSentence Reserve(const GameRow& row) {
+Phrase Reserve(const GameRow& row) {
     if (row.Res.Cards == 0) return {say::kReserve, row.Res.Piles};
     if (row.Res.Cards == row.Res.Piles) return {say::kReserveFull, row.Res.Piles};
     return {say::kReserveFilled, row.Res.Piles, {int{row.Res.Cards}}};
@@ -164,14 +169,14 @@ bool HasGroups(const GameRow& row) {
     return row.Home.MultiMove != 0 && MultiOrderOf(row) != OrderCode::Nothing && hasRoom;
 }
 
-RuleSentence Groups(const GameRow& row) {
+Phrase Groups(const GameRow& row) {
     if (!HasGroups(row)) return {say::kOneAtATime};
-    const RuleWord order = OrderWords(row, MultiOrderOf(row));
+    const PhraseWord order = OrderWords(row, MultiOrderOf(row));
     if (!HasStackLimit(row.Ext.Tag)) return {say::kGroups, 0, {order}};
     return {row.Res.Piles > 0 ? say::kGroupsByPlaces : say::kGroupsByPiles, 0, {order}};
 }
 
-RuleSentence EmptyPile(const GameRow& row) {
+Phrase EmptyPile(const GameRow& row) {
     if (row.Ext.Tag == Tag::Penguin) {
         if (row.Goal.GoalType == GoalType::FirstCard) return {say::kTakesBelowBase};
         return {say::kTakesRank, 0, {OneOfRank(kKing)}};  // below the Ace
@@ -183,7 +188,7 @@ RuleSentence EmptyPile(const GameRow& row) {
     return {say::kTakesNone};
 }
 
-RuleSentence FoundationStart(const GameRow& row) {
+Phrase FoundationStart(const GameRow& row) {
     const int cards = row.Goal.Cards;
     switch (row.Goal.GoalType) {
         case GoalType::WholeRuns: return {say::kBeginEmpty};
@@ -230,37 +235,16 @@ Sentences Stock(const GameRow& row) {
     return {{say::kStockToWaste}, {redeals ? say::kStockRedeal : say::kStockOnce}};
 }
 
-RuleSentence Autoplay(const GameRow& row) {
+Phrase Autoplay(const GameRow& row) {
     if (IsSpider(row)) return {say::kRunsGoUp};
     return {row.Ext.DisAutoPlay != 0 ? say::kNoAutoplay : say::kAutoplay};
 }
 
-std::string English(const RuleWord& word) {
-    if (const int* number = std::get_if<int>(&word)) return std::to_string(*number);
-    return std::string(std::get<std::string_view>(word));
-}
-
 }  // namespace
-
-std::string RuleSentence::English() const {
-    const std::string_view text = Count == 1 ? Text.One : Text.Many;
-    std::string english;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '%') {
-            english += text[i];
-            continue;
-        }
-        const char place = text[++i];
-        english += place == 'n'
-                       ? std::to_string(Count)
-                       : varnello::English(Words.at(static_cast<std::size_t>(place - '1')));
-    }
-    return english;
-}
 
 std::string GameFact::English() const {
     std::string english;
-    for (const RuleSentence& sentence : Sentences) {
+    for (const Phrase& sentence : Sentences) {
         if (!english.empty()) english += ' ';
         english += sentence.English();
     }
@@ -268,14 +252,14 @@ std::string GameFact::English() const {
 }
 
 std::vector<GameFact> Describe(const GameRow& row) {
-    std::vector<GameFact> facts{{"Aim", Aim(row)},
-                                {"Layout", Layout(row)},
-                                {"Building", Building(row)},
-                                {"Groups", {Groups(row)}},
-                                {"Empty piles", {EmptyPile(row)}},
-                                {"Foundations", Foundations(row)}};
-    if (CardsLeftOnStock(row) > 0) facts.push_back({"Stock", Stock(row)});
-    facts.push_back({"Autoplay", {Autoplay(row)}});
+    std::vector<GameFact> facts{{Text("Aim"), Aim(row)},
+                                {Text("Layout"), Layout(row)},
+                                {Text("Building"), Building(row)},
+                                {Text("Groups"), {Groups(row)}},
+                                {Text("Empty piles"), {EmptyPile(row)}},
+                                {Text("Foundations"), Foundations(row)}};
+    if (CardsLeftOnStock(row) > 0) facts.push_back({Text("Stock"), Stock(row)});
+    facts.push_back({Text("Autoplay"), {Autoplay(row)}});
     return facts;
 }
 

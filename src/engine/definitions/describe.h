@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include "engine/definitions/game_row.h"
@@ -10,22 +9,10 @@
 
 namespace varnello {
 
-/// What stands in a sentence for %1 or %2: a number, or words that are a text of their own.
-using RuleWord = std::variant<int, std::string_view>;
-
-/// One sentence of a game's rules.
-struct RuleSentence {
-    say::Sentence Text;
-    int Count = 0;  ///< stands for %n; 1 takes the sentence for one
-    std::vector<RuleWord> Words = {};
-
-    std::string English() const;
-};
-
 /// A fact about a game under its heading.
 struct GameFact {
     std::string_view Heading;
-    std::vector<RuleSentence> Sentences;
+    std::vector<Phrase> Sentences;
 
     std::string English() const;
 };

@@ -1,17 +1,10 @@
 #pragma once
 
-#include <string_view>
+#include "engine/common/phrase.h"
 
-/// The sentences of which the rules of a game consist, and the words that stand in for %1 and %2. A
-/// sentence is chosen as a whole and its English text is its key, so that a translation needs no
-/// more than a text for each.
+/// The sentences of which the rules of a game consist. A sentence is chosen as a whole; the words
+/// that stand in for %1 and %2 are in `definitions/describe.cpp`.
 namespace varnello::say {
-
-/// A sentence that depends on a number, which stands in for %n.
-struct Sentence {
-    std::string_view Many;
-    std::string_view One = Many;
-};
 
 // Aim.
 inline constexpr Sentence kAim{"Bring all %1 cards to the %n foundations."};

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "engine/common/phrase.h"
+
 namespace varnello {
 
 /// What is heard of a game. `Count` is none.
@@ -26,13 +28,13 @@ inline constexpr std::size_t kSoundCount = static_cast<std::size_t>(Sound::Count
 
 /// In the order of `Sound`, which is also that of the list in which they are switched.
 inline constexpr std::array<SoundRow, kSoundCount> kSounds{{
-    {Sound::Start, "SoundStart", true, "Initial Shuffle", "start"},
-    {Sound::CardUp, "SoundCardUp", false, "Card Up", "cardup"},
-    {Sound::CardDown, "SoundCardDown", false, "Card Down", "carddown"},
-    {Sound::AutoPlay, "SoundAutoPlay", true, "Autoplay Move", "autoplay"},
-    {Sound::Undo, "SoundUndo", true, "Undo", "undo"},
-    {Sound::Redo, "SoundRedo", true, "Redo", "undo"},
-    {Sound::Win, "SoundWin", true, "Game Won", "win"},
+    {Sound::Start, "SoundStart", true, say::Text("Initial Shuffle"), "start"},
+    {Sound::CardUp, "SoundCardUp", false, say::Text("Card Up"), "cardup"},
+    {Sound::CardDown, "SoundCardDown", false, say::Text("Card Down"), "carddown"},
+    {Sound::AutoPlay, "SoundAutoPlay", true, say::Text("Autoplay Move"), "autoplay"},
+    {Sound::Undo, "SoundUndo", true, say::Text("Undo"), "undo"},
+    {Sound::Redo, "SoundRedo", true, say::Text("Redo"), "undo"},
+    {Sound::Win, "SoundWin", true, say::Text("Game Won"), "win"},
 }};
 
 constexpr const SoundRow& RowOf(Sound event) { return kSounds[static_cast<std::size_t>(event)]; }

@@ -7,19 +7,6 @@
 #include "engine/common/text_file.h"
 
 namespace varnello {
-namespace {
-
-/// Plain digits in groups of three; nothing for 0.
-std::string Grouped(double number) {
-    if (number == 0) return {};
-    std::string text = WholeText(number);
-    for (auto at = static_cast<std::ptrdiff_t>(text.size()) - 3; at > 0; at -= 3) {
-        text.insert(static_cast<std::size_t>(at), 1, ',');
-    }
-    return text;
-}
-
-}  // namespace
 
 double NumberLimit(std::int16_t rangeIndex) {
     if (rangeIndex < 1) return 0;
@@ -28,8 +15,8 @@ double NumberLimit(std::int16_t rangeIndex) {
     return limit;
 }
 
-std::string HighestNumberText(std::int16_t rangeIndex) {
-    return Grouped(std::max(NumberLimit(rangeIndex), 1.0) - 1);
+Grouped HighestNumber(std::int16_t rangeIndex) {
+    return {std::max(NumberLimit(rangeIndex), 1.0) - 1};
 }
 
 GameNumber Choosing::RandomGNo() {
@@ -39,12 +26,10 @@ GameNumber Choosing::RandomGNo() {
     return GameNumber::Number(std::max(std::floor(drawn), 1.0));
 }
 
-double Choosing::MaxGNo() const {
-    return std::max(NumberLimit(data_.Get(keys::RangeIndex)), 1.0) - 1;
-}
+double Choosing::MaxGNo() const { return HighestNumber(data_.Get(keys::RangeIndex)).Value; }
 
-std::string Choosing::RangeText() const {
-    return "0 and " + HighestNumberText(data_.Get(keys::RangeIndex));
+Phrase Choosing::RangeText() const {
+    return Say("0 and %1", {HighestNumber(data_.Get(keys::RangeIndex))});
 }
 
 bool Choosing::IsChoosable(std::string_view text) const {
@@ -57,31 +42,32 @@ bool Choosing::IsChoosable(std::string_view text) const {
 
 bool Choosing::AcceptNumber(const std::string& text) {
     if (IsChoosable(text)) return true;
-    messages_.Inform("Please enter a number between " + RangeText());
+    messages_.Inform(Say("Please enter a number between 0 and %1",
+                         {HighestNumber(data_.Get(keys::RangeIndex))}));
     return false;
 }
 
 void Choosing::AddFavorite() {
     if (!favorites_.AddFav(data_.CurGName(), data_.CurGNo)) {
-        messages_.Inform("The favorite could not be written to the file\n" +
-                         PathText(favorites_.File()));
+        messages_.Inform(Say("The favorite could not be written to the file\n%1",
+                             {PathText(favorites_.File())}));
         return;
     }
-    messages_.Inform("Game <" + data_.CurGNo.Shown() + "> Successfully Added to Favorites Under <" +
-                     data_.CurGName() + "> Folder");
+    messages_.Inform(Say("Game <%1> Successfully Added to Favorites Under <%2> Folder",
+                         {data_.CurGNo.Shown(), data_.CurGName()}));
 }
 
 void Choosing::ClearFavorites() {
     if (!favorites_.ClearFav()) {
-        messages_.Refuse("The favorites stay, because this file could not be removed:\n" +
-                         PathText(favorites_.File()));
+        messages_.Refuse(Say("The favorites stay, because this file could not be removed:\n%1",
+                             {PathText(favorites_.File())}));
     }
     favorites_.OpenFav();
 }
 
 void Choosing::ClearRecentGames() {
     data_.Together([&] { data_.ClearRecent(); });
-    messages_.Inform("Recent Games List has been Cleared.");
+    messages_.Inform(Say("Recent Games List has been Cleared."));
 }
 
 }  // namespace varnello

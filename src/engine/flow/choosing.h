@@ -12,13 +12,13 @@ namespace varnello {
 
 /// To be asked before the recent list is cleared.
 inline constexpr std::string_view kClearRecentQuestion =
-    "Are you sure you want to clear the Recent Games List ?";
+    say::Text("Are you sure you want to clear the Recent Games List ?");
 
 /// 10 to the power of a range index, at most 15; 0 for an index below 1.
 double NumberLimit(std::int16_t rangeIndex);
 
-/// The highest number of a range, 10 to its power less 1, with its digits in groups of three.
-std::string HighestNumberText(std::int16_t rangeIndex);
+/// The highest number of a range, 10 to its power less 1.
+Grouped HighestNumber(std::int16_t rangeIndex);
 
 /// What the dialogs that choose a deal decide: numbers, favorites, the recent list.
 class Choosing {
@@ -31,7 +31,7 @@ public:
     /// The highest number, 10 to the power of the range less 1; numbers lie strictly below it.
     double MaxGNo() const;
     /// "0 and " and the highest number with its digits in groups.
-    std::string RangeText() const;
+    Phrase RangeText() const;
     /// Whether the text reads as a number between 0 and `MaxGNo`, tested as a 32-bit float. The
     /// text goes on exactly as it stands.
     bool IsChoosable(std::string_view text) const;

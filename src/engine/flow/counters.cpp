@@ -36,11 +36,9 @@ CounterCaptions Counters::TimeTick() {
     const std::int16_t moves = field_.trans.GetTransID();
     const std::int32_t elapsed = ElapsedTime();
     const std::int16_t currentScore = CalcScore();
-    if (data.Get(keys::ShowScore) == 1) {
-        captions.mScore = "Score :" + std::to_string(currentScore);
-    }
-    if (data.Get(keys::ShowTime) == 1) captions.mTime = "Time :" + FormatTime(elapsed);
-    if (data.Get(keys::ShowMoves) == 1) captions.mMoves = "Moves :" + std::to_string(moves);
+    if (data.Get(keys::ShowScore) == 1) captions.mScore = Say("Score :%1", {currentScore});
+    if (data.Get(keys::ShowTime) == 1) captions.mTime = Say("Time :%1", {Duration{elapsed}});
+    if (data.Get(keys::ShowMoves) == 1) captions.mMoves = Say("Moves :%1", {moves});
     data.CurScore = currentScore;
     data.CurTime = elapsed;
     data.CurMoves = moves;

@@ -1,18 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <optional>
 
 #include "engine/desktop.h"
 #include "engine/rules/playfield.h"
 
 namespace varnello {
 
-/// The captions at the right end of the menu bar; an empty one isn't shown.
+/// The captions at the right end of the menu bar; one without a value isn't shown.
 struct CounterCaptions {
-    std::string mScore;
-    std::string mTime;
-    std::string mMoves;
+    std::optional<Phrase> mScore;
+    std::optional<Phrase> mTime;
+    std::optional<Phrase> mMoves;
 };
 
 /// Ten points for each card on a foundation, less a third of the seconds and half of the moves.

@@ -65,8 +65,8 @@ void GameLife::LeaveGame() {
 
 void GameLife::EndGame(Outcome outcome) {
     if (!score_.AddScore(outcome)) {
-        messages_.Warn("The result of this game could not be written to the file\n" +
-                       PathText(ScorePath(field_.data, field_.data.CurPlayer())));
+        messages_.Warn(Say("The result of this game could not be written to the file\n%1",
+                           {PathText(ScorePath(field_.data, field_.data.CurPlayer()))}));
     }
     score_.AddSesGame(outcome);
     field_.data.GameRunning = false;
@@ -94,10 +94,9 @@ FinishFigures GameLife::LoadFinish() {
     cData& data = field_.data;
     FinishFigures figures{
         .Game = data.CurGName(),
-        .Lines = {" Game : " + data.CurGNo.Shown(), " Player : " + data.CurPlayer(),
-                  " Time : " + FormatTime(data.CurTime),
-                  " Moves : " + std::to_string(data.CurMoves),
-                  " Score : " + std::to_string(data.CurScore)},
+        .Lines = {Say(" Game : %1", {data.CurGNo.Shown()}), Say(" Player : %1", {data.CurPlayer()}),
+                  Say(" Time : %1", {Duration{data.CurTime}}), Say(" Moves : %1", {data.CurMoves}),
+                  Say(" Score : %1", {data.CurScore})},
         .Score = std::max(data.CurScore, std::int16_t{0}),
         .Moves = data.CurMoves,
         .Time = data.CurTime};

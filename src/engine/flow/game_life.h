@@ -14,8 +14,8 @@ namespace varnello {
 /// The figures that the won dialog shows.
 struct FinishFigures {
     std::string Game;
-    std::array<std::string, 5> Lines;  ///< game number, player, time, moves, score
-    std::int16_t Score = 0;            ///< for the chart: 0 when negative
+    std::array<Phrase, 5> Lines;  ///< game number, player, time, moves, score
+    std::int16_t Score = 0;       ///< for the chart: 0 when negative
     std::int16_t Moves = 0;
     std::int32_t Time = 0;  ///< seconds
 };

@@ -14,17 +14,17 @@ constexpr const char* kAside = ".deleted";  // behind the name of a file on its 
 
 bool Players::MayAddPlayer() {
     if (data_.TotalPlayers() < kMaxPlayers) return true;
-    messages_.Inform("Maximum 20 Players Only!");
+    messages_.Inform(Say("Maximum 20 Players Only!"));
     return false;
 }
 
 bool Players::EnterPlayer(const std::string& oldName, const std::string& newName) {
     if (!IsNewPlayerName(newName)) {
-        messages_.Refuse("Please Enter a Valid Name");
+        messages_.Refuse(Say("Please Enter a Valid Name"));
         return false;
     }
     if (data_.FindPlayer(newName) != 0) {
-        messages_.Refuse("Player Exists !");
+        messages_.Refuse(Say("Player Exists !"));
         return false;
     }
     if (!oldName.empty()) return RenamePlayer(oldName, newName);
@@ -35,11 +35,11 @@ bool Players::EnterPlayer(const std::string& oldName, const std::string& newName
 }
 
 void Players::RefuseSettings() {
-    messages_.Refuse("The players stay as they were, because the settings can't be written.");
+    messages_.Refuse(Say("The players stay as they were, because the settings can't be written."));
 }
 
-void Players::RefuseFile(std::string_view what, const std::filesystem::path& file) {
-    messages_.Refuse(std::string(what) + '\n' + PathText(file));
+void Players::RefuseFile(std::string_view why, const std::filesystem::path& file) {
+    messages_.Refuse(Say(why, {PathText(file)}));
 }
 
 // The settings first, with a note of the rename, then the file: whatever comes between them, the
@@ -51,10 +51,11 @@ bool Players::RenamePlayer(const std::string& oldName, const std::string& newNam
     const bool taken = std::filesystem::exists(to, error);
     const bool hasFile = !error && std::filesystem::exists(from, error);
     if (taken) {
-        messages_.Refuse("Player Exists !");
+        messages_.Refuse(Say("Player Exists !"));
         return false;
     }
-    const char* const kKept = "The player keeps the old name, because this file can't be renamed:";
+    constexpr std::string_view kKept =
+        say::Text("The player keeps the old name, because this file can't be renamed:\n%1");
     if (error) {
         RefuseFile(kKept, from);
         return false;
@@ -134,7 +135,7 @@ bool Players::DeletePlayer(const std::string& name) {
     const bool hasFile = std::filesystem::exists(file, error);
     if (hasFile) std::filesystem::rename(file, aside, error);
     if (error) {
-        RefuseFile("The player stays, because this file can't be removed:", file);
+        RefuseFile(say::Text("The player stays, because this file can't be removed:\n%1"), file);
         return false;
     }
     const bool written = data_.Change([&] {

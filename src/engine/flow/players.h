@@ -11,7 +11,7 @@ namespace varnello {
 
 /// To be asked before a player is deleted.
 inline constexpr std::string_view kDeletePlayerQuestion =
-    "Are you sure you want to delete this player";
+    say::Text("Are you sure you want to delete this player");
 
 /// What the players dialog and its input box decide. List and files change together, or neither
 /// does.
@@ -35,7 +35,7 @@ private:
     bool RenamePlayer(const std::string& oldName, const std::string& newName);
     void TakeBackUnfinishedDeletes();
     void RefuseSettings();
-    void RefuseFile(std::string_view what, const std::filesystem::path& file);
+    void RefuseFile(std::string_view why, const std::filesystem::path& file);
 
     cData& data_;
     cScore& score_;

@@ -5,6 +5,14 @@
 #include "engine/common/text_file.h"
 
 namespace varnello {
+namespace {
+
+void AddLine(std::string& lines, const std::filesystem::path& file) {
+    if (!lines.empty()) lines += '\n';
+    lines += PathText(file);
+}
+
+}  // namespace
 
 void Results::ClearStat() {
     std::string stay;
@@ -12,13 +20,14 @@ void Results::ClearStat() {
         const std::filesystem::path file = ScorePath(data_, data_.GetPlayer(slot));
         std::error_code error;
         std::filesystem::remove(file, error);
-        if (error) stay += '\n' + PathText(file);
+        if (error) AddLine(stay, file);
     }
     if (!stay.empty()) {
-        messages_.Refuse("These files could not be removed, and their results stay:" + stay);
+        messages_.Refuse(
+            Say("These files could not be removed, and their results stay:\n%1", {stay}));
         return;
     }
-    messages_.Inform("Statistics, High Score and Log have been Cleared.");
+    messages_.Inform(Say("Statistics, High Score and Log have been Cleared."));
 }
 
 void Results::OpenScores(LoadedScores loaded) {
@@ -29,10 +38,11 @@ void Results::OpenScores(LoadedScores loaded) {
 void Results::TellUnread(const std::vector<std::filesystem::path>& unread) {
     std::string files;
     for (const std::filesystem::path& file : unread) {
-        if (toldUnread_.insert(file).second) files += '\n' + PathText(file);
+        if (toldUnread_.insert(file).second) AddLine(files, file);
     }
     if (files.empty()) return;
-    messages_.Warn("These files of results can't be read, and their games are missing:" + files);
+    messages_.Warn(
+        Say("These files of results can't be read, and their games are missing:\n%1", {files}));
 }
 
 StatExport Results::PrepareExport(const ChosenFile& file) const {
@@ -46,7 +56,7 @@ StatExport Results::PrepareExport(const ChosenFile& file) const {
 void Results::TellExport(const ChosenFile& file, const StatExport& written) {
     toldUnread_.clear();  // a report that others read is worth a word of its own
     TellUnread(written.Unread);
-    messages_.Inform("Statistics Successfully Exported to " + file.Name);
+    messages_.Inform(Say("Statistics Successfully Exported to %1", {file.Name}));
 }
 
 void Results::ExportStat(const ChosenFile& file) {

@@ -11,9 +11,9 @@
 namespace varnello {
 
 /// To be asked before the results are cleared.
-inline constexpr std::string_view kClearStatQuestion =
-    "Are you sure you want to clear the Statistics, High Score and Log for all Players and all "
-    "Games ?";
+inline constexpr std::string_view kClearStatQuestion = say::Text(
+    "Are you sure you want to clear the Statistics, High Score and Log for all Players "
+    "and all Games ?");
 
 /// What is done with all results together.
 class Results {

@@ -10,8 +10,8 @@ namespace {
 
 using namespace columns;
 constexpr RecordColumn kSession[] = {
-    Game, {RecordField::GameNo, "Game No"}, Player, Time, Moves, Status, Score};
-constexpr RecordColumn kDetails[] = {{RecordField::Number, "No."}, Time, Moves, Score};
+    Game, {RecordField::GameNo, say::Text("Game No")}, Player, Time, Moves, Status, Score};
+constexpr RecordColumn kDetails[] = {{RecordField::Number, say::Text("No.")}, Time, Moves, Score};
 
 }  // namespace
 
@@ -33,36 +33,37 @@ ReportRow RunningRow(const Engine& engine, RecordColumns columns) {
     ReportRow row =
         RowOf(engine.score().CurrentGame(Outcome::NotWon), number, columns, engine.dates());
     const std::size_t status = PlaceOf(RecordField::Status, columns);
-    if (status < row.size()) row[status].Text = "Running";
+    if (status < row.size()) row[status] = WordCell(say::Text("Running"));
     return row;
 }
 
-std::string SessionElapsedLabel(const Engine& engine) {
-    return "Time Elapsed : " + FormatTime(engine.counters().SessionTime());
+Phrase SessionElapsedLabel(const Engine& engine) {
+    return Say("Time Elapsed : %1", {Duration{engine.counters().SessionTime()}});
 }
 
-std::vector<std::string> SessionLabels(const Engine& engine) {
+std::vector<Phrase> SessionLabels(const Engine& engine) {
     const ScoreSummary summary = engine.score().SesSummary();
-    return {"Started : " + engine.dates().DateAndTime(engine.data().SesStartTime),
-            "Games Played : " + std::to_string(engine.score().SesTop()),
-            "Games Won : " + std::to_string(summary.Won),
-            "Games Lost : " + std::to_string(summary.Lost),
-            "Total Score : " + std::to_string(summary.Score),
-            "Total Moves : " + std::to_string(summary.Moves),
+    return {Say("Started : %1", {engine.dates().DateAndTime(engine.data().SesStartTime)}),
+            Say("Games Played : %1", {engine.score().SesTop()}),
+            Say("Games Won : %1", {summary.Won}),
+            Say("Games Lost : %1", {summary.Lost}),
+            Say("Total Score : %1", {summary.Score}),
+            Say("Total Moves : %1", {summary.Moves}),
             SessionElapsedLabel(engine)};
 }
 
 GameLabels GameLabelsOf(const Engine& engine) {
     const cData& data = engine.data();
     const bool none = data.CurGName().empty();  // before the first game
-    return {.Started = "Game Started : " +
-                       (none ? std::string() : engine.dates().DateAndTime(data.GameStartTime)),
-            .Name = "Game : " + data.CurGName(),
-            .Number = "Game Number : " + data.CurGNo.Shown(),
-            .Score = "Score : " + std::to_string(data.CurScore),
-            .Moves = "Moves : " + std::to_string(data.CurMoves),
-            .Time = "Time Elapsed : " + FormatTime(data.CurTime),
-            .Player = "Player Name : " + data.CurPlayer()};
+    const std::string started =
+        none ? std::string() : engine.dates().DateAndTime(data.GameStartTime);
+    return {.Started = Say("Game Started : %1", {started}),
+            .Name = Say("Game : %1", {data.CurGName()}),
+            .Number = Say("Game Number : %1", {data.CurGNo.Shown()}),
+            .Score = Say("Score : %1", {data.CurScore}),
+            .Moves = Say("Moves : %1", {data.CurMoves}),
+            .Time = Say("Time Elapsed : %1", {Duration{data.CurTime}}),
+            .Player = Say("Player Name : %1", {data.CurPlayer()})};
 }
 
 }  // namespace varnello

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <vector>
 
 #include "engine/flow/engine.h"
@@ -11,14 +10,14 @@
 namespace varnello {
 
 /// The labels of "This Session", from top to bottom; the last one is the elapsed time.
-std::vector<std::string> SessionLabels(const Engine& engine);
-std::string SessionElapsedLabel(const Engine& engine);
+std::vector<Phrase> SessionLabels(const Engine& engine);
+Phrase SessionElapsedLabel(const Engine& engine);
 
 /// The labels of "This Game", from top to bottom; they keep the last figures after a game's end.
 struct GameLabels {
-    std::string Started, Name, Number, Score, Moves, Time, Player;
+    Phrase Started, Name, Number, Score, Moves, Time, Player;
 
-    std::array<std::string, 7> InOrder() const {
+    std::array<Phrase, 7> InOrder() const {
         return {Started, Name, Number, Score, Moves, Time, Player};
     }
 };

@@ -5,11 +5,8 @@
 namespace varnello {
 namespace {
 
-std::string PlaceText(const Place& place) {
-    std::string text(ConvertCell(place.Cell));
-    text.append(" (Pile ").append(std::to_string(place.Pile + 1));
-    text.append(", Card ").append(std::to_string(place.Pos + 1));
-    return text.append(")");
+Phrase PlaceText(const Place& place) {
+    return Say("%1 (Pile %2, Card %3)", {ConvertCell(place.Cell), place.Pile + 1, place.Pos + 1});
 }
 
 HistoryMark MarkOf(int index, int last) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "engine/movelog/log.h"
@@ -12,8 +11,8 @@ enum class HistoryMark { Applied, Last, Undone };
 /// A record of the log as people read it; piles and cards count from 1.
 struct HistoryRow {
     std::int16_t Number = 0;
-    std::string Source;
-    std::string Destination;
+    Phrase Source;
+    Phrase Destination;
     std::int16_t Cards = 0;
     HistoryMark Mark = HistoryMark::Applied;
 };

@@ -41,11 +41,11 @@ std::int16_t cTrans::TransTop() const { return Saturate16(static_cast<std::int64
 
 std::string_view ConvertCell(Cell cell) {
     switch (cell) {
-        case Cell::Home: return "Tableau";
-        case Cell::Stock: return "Stock";
-        case Cell::Waste: return "Waste";
-        case Cell::Goal: return "Foundation";
-        case Cell::Res: return "Reserve";
+        case Cell::Home: return say::Text("Tableau");
+        case Cell::Stock: return say::Text("Stock");
+        case Cell::Waste: return say::Text("Waste");
+        case Cell::Goal: return say::Text("Foundation");
+        case Cell::Res: return say::Text("Reserve");
     }
     return {};
 }

@@ -10,7 +10,9 @@ namespace {
 
 using namespace columns;
 constexpr RecordColumn kColumns[] = {
-    Number, Player, Game, Score, Time, Moves, Status, Date, {RecordField::GameNo, "Game Number"}};
+    Number, Player, Game,
+    Score,  Time,   Moves,
+    Status, Date,   {RecordField::GameNo, say::Text("Game Number")}};
 
 template <int Days>
 bool DaysAtMost(std::int64_t days, std::int64_t /*months*/) {
@@ -23,13 +25,13 @@ bool MonthsAtMost(std::int64_t days, std::int64_t months) {
 }
 
 constexpr AgeChoice kAges[] = {
-    {"Show Today", "t", DaysAtMost<0>},
-    {"Last 3 Days", "3d", DaysAtMost<3>},
-    {"Last 7 Days", "7d", DaysAtMost<7>},
-    {"Last 30 Days", "30d", DaysAtMost<30>},
-    {"Last 3 Months", "3m", MonthsAtMost<3>},
-    {"Last 5 Months", "5m", MonthsAtMost<5>},
-    {"Show All", "all", nullptr},
+    {say::Text("Show Today"), "t", DaysAtMost<0>},
+    {say::Text("Last 3 Days"), "3d", DaysAtMost<3>},
+    {say::Text("Last 7 Days"), "7d", DaysAtMost<7>},
+    {say::Text("Last 30 Days"), "30d", DaysAtMost<30>},
+    {say::Text("Last 3 Months"), "3m", MonthsAtMost<3>},
+    {say::Text("Last 5 Months"), "5m", MonthsAtMost<5>},
+    {say::Text("Show All"), "all", nullptr},
 };
 
 }  // namespace

@@ -38,7 +38,7 @@ ReportCell CellOf(const ScoreRecord& record, double number, RecordField field,
         case RecordField::Score: return NumberCell(record.Score);
         case RecordField::Time: return TimeCell(record.Time);
         case RecordField::Moves: return NumberCell(record.Moves);
-        case RecordField::Status: return {std::string(WonLostText(record.Status))};
+        case RecordField::Status: return WordCell(WonLostText(record.Status));
         case RecordField::Date: return DateCell(record.Date, dates);
         case RecordField::GameNo: break;
     }

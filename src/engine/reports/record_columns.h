@@ -22,15 +22,15 @@ using RecordColumns = std::span<const RecordColumn>;
 
 /// The columns as most lists call them.
 namespace columns {
-inline constexpr RecordColumn Number{RecordField::Number, "S No."};
-inline constexpr RecordColumn Player{RecordField::Player, "Player"};
-inline constexpr RecordColumn Game{RecordField::Game, "Game"};
-inline constexpr RecordColumn Score{RecordField::Score, "Score"};
-inline constexpr RecordColumn Time{RecordField::Time, "Time"};
-inline constexpr RecordColumn Moves{RecordField::Moves, "Moves"};
-inline constexpr RecordColumn Status{RecordField::Status, "Status"};
-inline constexpr RecordColumn Date{RecordField::Date, "Date"};
-inline constexpr RecordColumn GameNo{RecordField::GameNo, "Game No."};
+inline constexpr RecordColumn Number{RecordField::Number, say::Text("S No.")};
+inline constexpr RecordColumn Player{RecordField::Player, say::Text("Player")};
+inline constexpr RecordColumn Game{RecordField::Game, say::Text("Game")};
+inline constexpr RecordColumn Score{RecordField::Score, say::Text("Score")};
+inline constexpr RecordColumn Time{RecordField::Time, say::Text("Time")};
+inline constexpr RecordColumn Moves{RecordField::Moves, say::Text("Moves")};
+inline constexpr RecordColumn Status{RecordField::Status, say::Text("Status")};
+inline constexpr RecordColumn Date{RecordField::Date, say::Text("Date")};
+inline constexpr RecordColumn GameNo{RecordField::GameNo, say::Text("Game No.")};
 }  // namespace columns
 
 std::vector<Column> ColumnsOf(RecordColumns columns);

@@ -6,12 +6,20 @@
 
 namespace varnello {
 
-ReportCell NumberCell(double value) { return {WholeText(value), value}; }
+ReportCell NumberCell(double value) { return {WholeText(value), value, CellForm::Figure}; }
 
-ReportCell TimeCell(double seconds) { return {FormatTime(RoundTo32(seconds)), seconds}; }
+ReportCell TimeCell(double seconds) {
+    return {FormatTime(RoundTo32(seconds)), seconds, CellForm::Figure};
+}
 
-ReportCell PercentCell(double percent) { return {ShortDecimal(percent) + '%', percent}; }
+ReportCell PercentCell(double percent) {
+    return {ShortDecimal(percent) + '%', percent, CellForm::Figure};
+}
 
-std::string_view WonLostText(int status) { return status == 1 ? "Won" : "Lost"; }
+ReportCell WordCell(std::string_view word) { return {std::string(word), 0, CellForm::Word}; }
+
+std::string_view WonLostText(int status) {
+    return status == 1 ? say::Text("Won") : say::Text("Lost");
+}
 
 }  // namespace varnello

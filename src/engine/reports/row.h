@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "engine/common/phrase.h"
 
 namespace varnello {
 
@@ -16,10 +19,15 @@ struct Column {
     ColumnKind Kind = ColumnKind::Text;
 };
 
+/// What a cell's text is: a person's own, such as a name or a date; one of the program's, which has
+/// a translation; or a figure, which is shown in the digits of the user's language.
+enum class CellForm : std::uint8_t { Own, Word, Figure };
+
 /// What one cell of a report shows, and what it sorts by unless that is its text.
 struct ReportCell {
     std::string Text;
     double Value = 0;
+    CellForm Form = CellForm::Own;
 };
 
 using ReportRow = std::vector<ReportCell>;
@@ -30,6 +38,8 @@ ReportCell NumberCell(double value);
 ReportCell TimeCell(double seconds);
 /// A value followed by "%".
 ReportCell PercentCell(double percent);
+
+ReportCell WordCell(std::string_view word);
 
 /// "Won" for status 1, "Lost" for any other.
 std::string_view WonLostText(int status);

@@ -30,27 +30,24 @@ DateTime Step(const DateTime& moment, int count, Interval interval) {
 
 }  // namespace
 
-std::vector<std::string> GeneralLines(const ScoreSummary& summary) {
+std::vector<Phrase> GeneralLines(const ScoreSummary& summary) {
     const double played = OneForZero(summary.Played);
     const double time = OneForZero(summary.Time);
-    const auto whole = [](const char* label, double value) {
-        return label + WholeText(std::trunc(value) + 0.0);  // never "-0"
-    };
-    const auto perHour = [&](std::int32_t value) { return value / time * 3600; };
-    return {
-        whole("Games Played : ", summary.Played),
-        whole("Games Won : ", summary.Won),
-        whole("Games Lost : ", summary.Lost),
-        whole("Total Moves : ", summary.Moves),
-        whole("Total Score : ", summary.Score),
-        "Total Time : " + FormatTime(summary.Time),
-        whole("Moves Per Game : ", summary.Moves / played),
-        whole("Score Per Game : ", summary.Score / played),
-        "Time Per Game : " + FormatTime(RoundTo32(summary.Time / played)),
-        whole("Games Per Hour : ", perHour(summary.Played)),
-        whole("Moves Per Hour : ", perHour(summary.Moves)),
-        whole("Score Per Hour : ", perHour(summary.Score)),
-        "Winning Percentage : " + ShortDecimal(RoundHalfEven2(summary.Won / played * 100)) + '%'};
+    const auto whole = [](double value) { return std::trunc(value) + 0.0; };  // never "-0"
+    const auto perHour = [&](std::int32_t value) { return whole(value / time * 3600); };
+    return {Say("Games Played : %1", {summary.Played}),
+            Say("Games Won : %1", {summary.Won}),
+            Say("Games Lost : %1", {summary.Lost}),
+            Say("Total Moves : %1", {summary.Moves}),
+            Say("Total Score : %1", {summary.Score}),
+            Say("Total Time : %1", {Duration{summary.Time}}),
+            Say("Moves Per Game : %1", {whole(summary.Moves / played)}),
+            Say("Score Per Game : %1", {whole(summary.Score / played)}),
+            Say("Time Per Game : %1", {Duration{RoundTo32(summary.Time / played)}}),
+            Say("Games Per Hour : %1", {perHour(summary.Played)}),
+            Say("Moves Per Hour : %1", {perHour(summary.Moves)}),
+            Say("Score Per Hour : %1", {perHour(summary.Score)}),
+            Say("Winning Percentage : %1%", {RoundHalfEven2(summary.Won / played * 100)})};
 }
 
 std::vector<ReportRow> GameRows(const cScore& score, const cData& data) {
@@ -78,20 +75,20 @@ std::vector<ReportRow> PlayerRows(const cScore& score, const cData& data) {
 
 std::span<const PeriodChoice> PeriodChoices() {
     static constexpr PeriodChoice kChoices[] = {
-        {"Last 5 Days", "5d", Interval::Day, 5, "Day"},
-        {"Last 10 Days", "10d", Interval::Day, 10, "Day"},
-        {"Last 30 Days", "30d", Interval::Day, 30, "Day"},
-        {"Last 5 Months", "5m", Interval::Month, 5, "Month"},
-        {"Last 10 Months", "10m", Interval::Month, 10, "Month"},
-        {"Last 5 Years", "5y", Interval::Year, 5, "Year"},
+        {say::Text("Last 5 Days"), "5d", Interval::Day, 5, say::Text("Day")},
+        {say::Text("Last 10 Days"), "10d", Interval::Day, 10, say::Text("Day")},
+        {say::Text("Last 30 Days"), "30d", Interval::Day, 30, say::Text("Day")},
+        {say::Text("Last 5 Months"), "5m", Interval::Month, 5, say::Text("Month")},
+        {say::Text("Last 10 Months"), "10m", Interval::Month, 10, say::Text("Month")},
+        {say::Text("Last 5 Years"), "5y", Interval::Year, 5, say::Text("Year")},
     };
     return kChoices;
 }
 
 std::array<Column, 3> PeriodColumns(const PeriodChoice& choice) {
     return {{{choice.Heading, ColumnKind::Label},
-             {"Played", ColumnKind::Value},
-             {"Won", ColumnKind::Value}}};
+             {say::Text("Played"), ColumnKind::Value},
+             {say::Text("Won"), ColumnKind::Value}}};
 }
 
 std::vector<PeriodSummary> PeriodRows(const cScore& score, const PeriodChoice& choice,

@@ -15,21 +15,21 @@
 namespace varnello {
 
 /// The lines of the general summary, each a label and its value.
-std::vector<std::string> GeneralLines(const ScoreSummary& summary);
+std::vector<Phrase> GeneralLines(const ScoreSummary& summary);
 
 /// The columns of sums over `what`.
 constexpr std::array<Column, 8> SumColumns(std::string_view what) {
     return {{{what},
-             {"Played", ColumnKind::Value},
-             {"Won", ColumnKind::Value},
-             {"Lost", ColumnKind::Value},
-             {"Time", ColumnKind::Value},
-             {"Moves", ColumnKind::Value},
-             {"Score", ColumnKind::Value},
-             {"Perc", ColumnKind::Value}}};
+             {say::Text("Played"), ColumnKind::Value},
+             {say::Text("Won"), ColumnKind::Value},
+             {say::Text("Lost"), ColumnKind::Value},
+             {say::Text("Time"), ColumnKind::Value},
+             {say::Text("Moves"), ColumnKind::Value},
+             {say::Text("Score"), ColumnKind::Value},
+             {say::Text("Perc"), ColumnKind::Value}}};
 }
-inline constexpr auto kGameColumns = SumColumns("Game");
-inline constexpr auto kPlayerColumns = SumColumns("Player");
+inline constexpr auto kGameColumns = SumColumns(say::Text("Game"));
+inline constexpr auto kPlayerColumns = SumColumns(say::Text("Player"));
 
 /// A row for each game; the percentage has two decimals.
 std::vector<ReportRow> GameRows(const cScore& score, const cData& data);

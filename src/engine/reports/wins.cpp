@@ -5,11 +5,16 @@ namespace {
 
 constexpr std::size_t kFewest = 3;  // wins that a place among them means something
 
-std::string Ordinal(int number) {
-    const int tens = number / 10 % 10;
-    const int ones = tens == 1 ? 0 : number % 10;
-    const char* const ending = ones == 1 ? "st" : ones == 2 ? "nd" : ones == 3 ? "rd" : "th";
-    return std::to_string(number) + ending;
+/// By the ending of the English ordinal; other languages may take one sentence for all.
+std::string_view PlaceSentence(int place) {
+    const int tens = place / 10 % 10;
+    const int ones = tens == 1 ? 0 : place % 10;
+    switch (ones) {
+        case 1: return say::Text("Your %1st fastest of %2");
+        case 2: return say::Text("Your %1nd fastest of %2");
+        case 3: return say::Text("Your %1rd fastest of %2");
+        default: return say::Text("Your %1th fastest of %2");
+    }
 }
 
 }  // namespace
@@ -38,11 +43,12 @@ OwnWins OwnWinsOf(const ScoreList& list, const ScoreRecord& game) {
     return wins;
 }
 
-std::string PlaceText(const OwnWins& wins) {
+std::optional<Phrase> PlaceText(const OwnWins& wins) {
     const std::size_t all = wins.Others.size() + 1;
     if (all < kFewest) return {};
-    const std::string place = wins.Place == 1 ? "" : Ordinal(wins.Place) + ' ';
-    return "Your " + place + "fastest of " + std::to_string(all);
+    const int count = static_cast<int>(all);
+    if (wins.Place == 1) return Say("Your fastest of %1", {count});
+    return Say(PlaceSentence(wins.Place), {wins.Place, count});
 }
 
 }  // namespace varnello

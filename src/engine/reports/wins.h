@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/common/phrase.h"
 #include "engine/scores/score_list.h"
 
 /// A game that has just been won, among the player's own wins of that game.
@@ -21,7 +22,7 @@ struct OwnWins {
 /// The wins beside the player's last game, which has to be this one.
 OwnWins OwnWinsOf(const ScoreList& list, const ScoreRecord& game);
 
-/// "Your 3rd fastest of 12"; empty for fewer than three wins.
-std::string PlaceText(const OwnWins& wins);
+/// "Your 3rd fastest of 12"; none for fewer than three wins.
+std::optional<Phrase> PlaceText(const OwnWins& wins);
 
 }  // namespace varnello

@@ -4,18 +4,16 @@
 #include <limits>
 #include <unordered_map>
 
-#include "engine/common/number_text.h"
-
 namespace varnello {
 namespace {
 
 std::string LabelOf(const DateTime& moment, Interval interval, const DateForms& forms) {
     switch (interval) {
-        case Interval::Day: return forms.Month(moment.month) + ' ' + TwoDigits(moment.day);
-        case Interval::Month: return forms.Month(moment.month) + ' ' + TwoDigits(moment.year % 100);
+        case Interval::Day: return forms.DayOfYear(moment);
+        case Interval::Month: return forms.MonthOfYear(moment);
         case Interval::Year: break;
     }
-    return std::to_string(moment.year);
+    return forms.Year(moment);
 }
 
 }  // namespace
