@@ -123,7 +123,7 @@ void MeasureColours(const SlotTones& tones, Report& report) {
         SetBG(fade, 1, {.bgIndex = id, .fade = true});
         for (int y = 0; y < 256; ++y) {
             report.Take(tones, {fade.pixel(0, y)},
-                        named->name.toLatin1() + " at " + QByteArray::number(y) + " of 256");
+                        QByteArray(named->name) + " at " + QByteArray::number(y) + " of 256");
         }
     }
     for (int red = 0; red <= 255; red += kGrid) {

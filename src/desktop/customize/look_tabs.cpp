@@ -34,7 +34,7 @@ void AddGroups(QTreeWidget* tree, QTreeWidgetItem* root, const QList<LookGroup>&
         auto* node = new QTreeWidgetItem(root, {name});
         int number = 0;
         for (const int id : group.ids) {
-            const QString place = InDigits(tr("0%1").arg(++number));
+            const QString place = InDigits(QStringLiteral("0%1").arg(++number));
             AddItem(tree, node,
                     CustomizeDialog::tr("%1 %2", "a group of looks, a number").arg(name, place), id,
                     chosen);
