@@ -70,8 +70,7 @@ CustomizeDialog::CustomizeDialog(Engine& engine, QWidget* parent)
     SSTab1_->addTab(new ScrolledPage(MakeGeneral()), tr("General"));
     SSTab1_->addTab(MakeBackground(), tr("Background"));
     SSTab1_->addTab(MakeDecks(), tr("Decks"));
-    SSTab1_->addTab(new ScrolledPage(MakeAnimationAndSounds()),
-                    tr("Animation && Sounds"));
+    SSTab1_->addTab(new ScrolledPage(MakeAnimationAndSounds()), tr("Animation && Sounds"));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* all = new QVBoxLayout(this);

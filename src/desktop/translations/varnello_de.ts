@@ -1779,6 +1779,13 @@ Spiel %2, %3</translation>
     </message>
 </context>
 <context>
+    <name>varnello::GameTree</name>
+    <message>
+        <source>Games</source>
+        <translation>Spiele</translation>
+    </message>
+</context>
+<context>
     <name>varnello::HelpWindow</name>
     <message>
         <source>%1 - %2</source>
@@ -2080,10 +2087,6 @@ Spiel %2, %3</translation>
         <translation>Regeln</translation>
     </message>
     <message>
-        <source>Games</source>
-        <translation>Spiele</translation>
-    </message>
-    <message>
         <source>Player</source>
         <translation>Spieler</translation>
     </message>
@@ -2159,6 +2162,10 @@ Spiel %2, %3</translation>
     <message>
         <source>Card table</source>
         <translation>Kartentisch</translation>
+    </message>
+    <message>
+        <source>Ctrl with + and - makes the cards larger and smaller.</source>
+        <translation>Strg mit + und - macht die Karten größer und kleiner.</translation>
     </message>
 </context>
 <context>

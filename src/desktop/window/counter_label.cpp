@@ -48,8 +48,7 @@ void CounterLabel::ShowCounters(const CounterCaptions& captions) {
     const auto textOf = [](const std::optional<Phrase>& caption) {
         return caption ? Localized(*caption) : QString();
     };
-    const std::array now{textOf(captions.mScore), textOf(captions.mTime),
-                         textOf(captions.mMoves)};
+    const std::array now{textOf(captions.mScore), textOf(captions.mTime), textOf(captions.mMoves)};
     QStringList shown;
     for (std::size_t i = 0; i < now.size(); ++i) {
         const int digits = std::max({counters_[i].digits, DigitsIn(now[i]), kLeastDigits});
