@@ -11,8 +11,6 @@ namespace varnello {
 class GameTree : public QTreeWidget {
     Q_OBJECT
 
-    Q_OBJECT
-
 public:
     /// Opens on the last game played.
     explicit GameTree(const cData& data);
