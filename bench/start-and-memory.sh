@@ -50,18 +50,4 @@ before=$(ticks $program)
 sleep 20
 echo "idle: $(($(ticks $program) - before)) ticks of 10 ms in 20 s"
 
-# A drag: CPU time for each mouse event with one card, one event each 4 ms as from a fast mouse.
-xdotool mousemove 366 410 mousedown 1
-before=$(ticks $program)
-events=2000
-for _ in $(seq $((events / 200))); do
-    words=()
-    for i in $(seq 100); do
-        words+=(mousemove $((366 + i)) 500 sleep 0.004 mousemove $((366 + i)) 502 sleep 0.004)
-    done
-    xdotool "${words[@]}"
-done
-sleep 0.5
-echo "drag: $(quotient $((($(ticks $program) - before) * 10)) $events) ms of CPU a mouse event ($events events)"
-xdotool mouseup 1
 kill $program $bare

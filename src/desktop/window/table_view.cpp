@@ -17,6 +17,8 @@ namespace {
 constexpr double kShiftLeft = 20;  // twips that the table stands left of the middle
 const QSize kTablePixels(qRound(kTableWidth / kTwipsPerPixel),
                          qRound(kTableHeight / kTwipsPerPixel));
+constexpr double kSlowestRate = 30;  // frames of a display in a second
+constexpr double kFastestRate = 240;
 constexpr int kTellTime = 12000;  // milliseconds
 constexpr int kWheelStep = 120;   // eighths of a degree, one notch
 
@@ -52,19 +54,25 @@ TableView::TableView(Motion& motion, Engine& engine, QWidget* parent)
         if (isVisible()) repaint(changed);
     });
     connect(&motion_, &Motion::Changed, this, &TableView::SyncSoon);
+    frame_.setSingleShot(true);
+    frame_.setTimerType(Qt::PreciseTimer);
+    connect(&frame_, &QTimer::timeout, this, &TableView::Sync);
     connect(&motion_, &Motion::Shown, this, &TableView::SyncSoon);
 }
 
 void TableView::SyncSoon() {
-    if (std::exchange(syncing_, true)) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            syncing_ = false;
-            update(ToWidget(TakeChanges()));
-            FollowPointer();
-        },
-        Qt::QueuedConnection);
+    if (frame_.isActive()) return;
+    // A mouse may tell of its moves several times in a frame of the display: what is in the hand is
+    // painted once in each.
+    const double frame = 1000 / std::clamp(screen()->refreshRate(), kSlowestRate, kFastestRate);
+    const bool waits = Carrying() && synced_.isValid();
+    frame_.start(waits ? std::max(static_cast<int>(frame - double(synced_.elapsed())), 0) : 0);
+}
+
+void TableView::Sync() {
+    synced_.start();
+    update(ToWidget(TakeChanges()));
+    FollowPointer();
 }
 
 QSize TableView::sizeHint() const { return kTablePixels * zoom_.Percent() / 100; }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QRegion>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWidget>
 #include <array>
 #include <memory>
@@ -87,8 +89,10 @@ private:
     /// Takes note of what the scene shows now; the result is what has changed, in device pixels.
     QRegion TakeChanges();
     QRegion ToWidget(const QRegion& device) const;
-    /// Shows all that has changed by then at the next turn of the event loop.
+    /// Shows all that has changed by then at the next turn of the event loop; during a drag with
+    /// the next frame of the display.
     void SyncSoon();
+    void Sync();
     bool OnStockSlot(const QPointF& devicePixels);
     /// What the hand holds and where it would lay it.
     Hand TakeHand();
@@ -120,7 +124,8 @@ private:
     int wheel_ = 0;       ///< turned with Ctrl and not used yet, eighths of a degree
     bool moved_ = false;  ///< the mouse, since the press
     bool stockPressed_ = false;
-    bool syncing_ = false;
+    QTimer frame_;
+    QElapsedTimer synced_;
     Qt::MouseButton pressedButton_ = Qt::NoButton;
 };
 
