@@ -131,7 +131,7 @@ private Q_SLOTS:
         WindowFixture fixture;
         const MainMenu& menu = fixture.window.menu();
         fixture.StartWithoutAutoplay("Freecell");
-        QVERIFY(!fixture.window.toolbar().Button(5)->isChecked());
+        QTRY_VERIFY(!fixture.window.toolbar().Button(5)->isChecked());
         fixture.engine().data().Set(keys::Autoplay, 2);  // on, but not what the button shows
         QTRY_VERIFY(menu.mGame(GameItem::Autoplay)->isChecked());
         QVERIFY(!fixture.window.toolbar().Button(5)->isChecked());
