@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <string>
 
 #include "desktop/accessible/windows.h"
@@ -14,8 +13,7 @@
 #include "desktop/platform/system.h"
 #include "desktop/platform/text.h"
 #include "desktop/platform/words.h"
-#include "desktop/window/main_window.h"
-#include "desktop/window/splash.h"
+#include "desktop/window/program.h"
 
 namespace {
 
@@ -23,7 +21,7 @@ namespace {
 QString Translated(const char* english) { return varnello::Translated("Start", english); }
 
 QtMessageHandler usualHandler = nullptr;
-std::unique_ptr<varnello::MainWindow>* running = nullptr;  ///< while the event loop runs
+varnello::Program* running = nullptr;  ///< while the event loop runs
 
 /// No sound device means silence, so what the sound library says about it isn't passed on.
 void AfterScreen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
@@ -102,34 +100,19 @@ int main(int argc, char** argv) {
     FileSettings settings;
     SystemClock clock;
     WaveSounds sounds;
-    std::unique_ptr<MainWindow> window;
-
+    Program program({settings, clock, sounds, DataFolder()});
+    QObject::connect(&program, &Program::Ended, &application, [] { QApplication::exit(0); });
     SessionEnd sessionEnd;
-    QObject::connect(&sessionEnd, &SessionEnd::Asked, &application, [&] {
-        if (window) return window->EndSession();
-        QApplication::exit(0);
-    });
+    QObject::connect(&sessionEnd, &SessionEnd::Asked, &program, &Program::EndSession);
     // The toolkit leaves by `exit` when the display goes away; what can be booked is booked then.
-    running = &window;
+    running = &program;
     std::atexit([] {
-        if (running && *running) (*running)->engine().Leave();
+        if (running) running->Leave();
     });
 
-    auto splash = std::make_unique<Splash>();
-    QObject::connect(
-        splash.get(), &Splash::Ended, &application,
-        [&] {
-            splash.reset();
-            window = std::make_unique<MainWindow>(
-                MainWindow::System{settings, clock, sounds, DataFolder()});
-            QObject::connect(window.get(), &MainWindow::Closed, &application,
-                             [] { QApplication::exit(0); });
-            window->showMaximized();
-            window->ShowSelect();
-        },
-        Qt::QueuedConnection);
-    splash->show();
+    program.Main();
     const int status = QApplication::exec();
     running = nullptr;
+    program.UnloadAll();
     return status;
 }

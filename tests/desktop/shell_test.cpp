@@ -9,7 +9,7 @@
 #include "desktop/platform/system.h"
 #include "desktop/platform/text.h"
 #include "desktop/reports/finish_dialog.h"
-#include "desktop/window/splash.h"
+#include "desktop/window/program.h"
 #include "engine/null_desktop.h"
 #include "fixture.h"
 
@@ -42,17 +42,23 @@ class ShellTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheSplashEndsOnce() {
+    void TheSplashLeadsToTheSelectorOnce() {
         for (const int way : {0, 1, 2}) {
-            Splash splash;
-            QSignalSpy ended(&splash, &Splash::Ended);
-            splash.show();
-            QCOMPARE(splash.size(), QSize(369, 237));
-            if (way == 0) QTest::mouseClick(&splash, Qt::LeftButton);
-            if (way == 1) QTest::keyClick(&splash, Qt::Key_Space);
-            QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 3000);
-            QTest::keyClick(&splash, Qt::Key_A);
+            NullDesktop desktop;
+            const QTemporaryDir folder;
+            Program program({desktop.settings, desktop.clock, desktop.sounds,
+                             std::filesystem::path(folder.path().toStdString())});
+            program.Main();
+            QCOMPARE(program.splash()->size(), QSize(369, 237));
+            const QSignalSpy ended(program.splash(), &Splash::Ended);
+            if (way == 0) QTest::mouseClick(program.splash(), Qt::LeftButton);
+            if (way == 1) QTest::keyClick(program.splash(), Qt::Key_Space);
+            if (way < 2) QTest::keyClick(program.splash(), Qt::Key_A);
+            QTRY_VERIFY_WITH_TIMEOUT(program.window() && !program.splash(), 3000);
             QCOMPARE(ended.count(), 1);
+            QVERIFY(program.window()->isMaximized() && program.window()->select()->isVisible());
+            program.UnloadAll();
+            QVERIFY(!program.window());
         }
     }
 

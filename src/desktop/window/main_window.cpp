@@ -46,14 +46,8 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     motion_.SetFrameRate(screen()->refreshRate());
     connect(&motion_, &Motion::Shown, this, &MainWindow::OnShown);
 
-    auto* client = new QWidget;
-    setCentralWidget(client);
     menu_ = std::make_unique<MainMenu>(*menuBar(), *engine_, static_cast<Shell&>(*this));
-    toolbar_ = new Toolbar(*menu_, client);
-    table_ = new TableView(motion_, *engine_, client);
-    table_->setFocus();
-    new TableVoice(motion_, *table_);  // the table's
-
+    LoadTable();
     engine_->InitMain();
     menu_->UpdateMenus();
     toolbar_->UpdateToolbar();
@@ -75,6 +69,15 @@ MainWindow::~MainWindow() {
     QApplication::instance()->removeEventFilter(this);
     help_.reset();  // it stands beside the table
     delete table_;  // before what it shows
+}
+
+void MainWindow::LoadTable() {
+    auto* client = new QWidget;
+    setCentralWidget(client);
+    toolbar_ = new Toolbar(*menu_, client);
+    table_ = new TableView(motion_, *engine_, client);
+    table_->setFocus();
+    new TableVoice(motion_, *table_);  // the table's
 }
 
 void MainWindow::AddZoomKeys() {

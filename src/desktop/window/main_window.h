@@ -103,6 +103,8 @@ private:
     void ShowAbout() override;
     /// The help page of a game; the contents for a name that is no game's.
     void ShowRules(const std::string& game);
+    /// Makes the table and the toolbar above it.
+    void LoadTable();
     void LayoutMain() override;
     void Refresh() override;
     void Settle() override;

@@ -19,7 +19,7 @@ constexpr int kShownFor = 2000;  // milliseconds
 
 }  // namespace
 
-Splash::Splash() : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint) {
+Splash::Splash() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
     setWindowTitle(ToQt(kProductName));
     setFixedSize(kSplashSize);
     setFocusPolicy(Qt::StrongFocus);
@@ -36,11 +36,13 @@ void Splash::End() {
     Q_EMIT Ended();
 }
 
+void Splash::showEvent(QShowEvent*) {
+    activateWindow();  // nobody gives a splash the focus unasked
+}
+
 void Splash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    painter.setPen(QColor(0xC8, 0xC4, 0xBA));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
     const QIcon title(QStringLiteral(":/splash/title.png"));
     title.paint(&painter, QRect(QPoint((width() - kTitleSize.width()) / 2, kTitleTop), kTitleSize));
     painter.setPen(QColor(0x5A, 0x5A, 0x5A));
