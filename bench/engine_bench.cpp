@@ -42,7 +42,7 @@ struct MoveBench : MoveFollower {
     MoveBench() {
         SelectGame(games, "Freecell");
         array.Init(1);
-        array.MoveCard({.PicId = 0, .To = {Cell::Home, 0, 0}, .tMod = MoveKind::Deal});
+        array.MoveCard({.PicID = 0, .To = {Cell::Home, 0, 0}, .tMod = MoveKind::Deal});
     }
 
     cGames games;
@@ -57,7 +57,7 @@ void BM_MoveCard(benchmark::State& state) {
     int pile = 0;
     for (auto _ : state) {
         pile = 1 - pile;
-        bench.array.MoveCard({.PicId = 0, .To = {Cell::Home, pile, 0}, .Speed = 3});
+        bench.array.MoveCard({.PicID = 0, .To = {Cell::Home, pile, 0}, .Speed = 3});
     }
 }
 BENCHMARK(BM_MoveCard);

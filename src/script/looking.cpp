@@ -63,7 +63,7 @@ void PrintLog(std::ostream& out, const Engine& engine) {
     out << "log: " << log.GetTransID() << ' ' << log.TransTop() << '\n';
     for (int i = 1; i <= log.TransTop(); ++i) {
         const TransRec& record = log.Record(static_cast<std::int16_t>(i));
-        out << i << ": " << record.PicId << ' ' << record.From << ' ' << record.To << ' '
+        out << i << ": " << record.PicID << ' ' << record.From() << ' ' << record.To() << ' '
             << record.mCards << ' ' << Code(record.MoveKind) << ' ' << record.InGroup << '\n';
     }
 }
@@ -114,7 +114,7 @@ void PrintPlayers(std::ostream& out, const Engine& engine) {
 
 void PrintHistory(std::ostream& out, const Engine& engine) {
     if (!engine.data().GameRunning) return;
-    for (const HistoryRow& row : HistoryOf(engine.trans())) {
+    for (const HistoryRow& row : engine.trans().CreateLV()) {
         out << "history: " << row.Number << '|' << row.Source.English() << '|'
             << row.Destination.English() << '|' << row.Cards;
         if (row.Mark == HistoryMark::Last) out << "|*";
@@ -139,7 +139,7 @@ void PrintFinish(std::ostream& out, const Engine& engine) {
 }
 
 void PrintMove(std::ostream& out, const CardMove& move) {
-    out << "move: " << move.PicId << ' ' << Code(move.To.Cell) << ' ' << move.To.Pile << ' '
+    out << "move: " << move.PicID << ' ' << Code(move.To.Cell) << ' ' << move.To.Pile << ' '
         << move.To.Pos << ' ' << Code(move.tMod) << ' ' << move.Speed << ' ' << move.mCards << ' '
         << Code(move.DFace) << '\n';
 }

@@ -64,7 +64,7 @@ void PrintLogReport(std::ostream& out, const Engine& engine, std::string_view ke
 }
 
 void PrintSession(std::ostream& out, const Engine& engine) {
-    for (const Phrase& label : SessionLabels(engine)) {
+    for (const Phrase& label : SessionLabelsOf(engine).InOrder()) {
         out << "session: " << label.English() << '\n';
     }
     for (const Phrase& label : GameLabelsOf(engine).InOrder()) {

@@ -54,7 +54,7 @@ void HandBoard::Lay(std::string_view piles) {
         table.Card(next_).SetValue(I16(suit), I16(static_cast<int>(kUp.find(word[0]))),
                                    I16(secondPack ? suit + 4 : suit));
         to.Pos = I16(array.GetTop(to.Cell, to.Pile) + 1);
-        array.MoveCard({.PicId = next_++,
+        array.MoveCard({.PicID = next_++,
                         .To = to,
                         .tMod = MoveKind::Deal,
                         .DFace = closed ? FaceMode::Closed : FaceMode::Open});

@@ -10,7 +10,7 @@ protected:
     /// Moves a card to and fro between two reserves.
     void Shuttle(int moves) {
         for (int i = 0; i < moves; ++i) {
-            array.MoveCard({.PicId = Id("9H"), .To = {Cell::Res, 1 - Card("9H").Loc.Pile, 0}});
+            array.MoveCard({.PicID = Id("9H"), .To = {Cell::Res, 1 - Card("9H").Loc.Pile, 0}});
         }
         out = {};
     }
@@ -26,7 +26,7 @@ protected:
 TEST_F(Log, GrowsBeyondTheCounterWithoutLosingARecord) {
     Shuttle(32767 + 3);
     for (const int i : {1, 99, 100, 101, 200, 32767}) {
-        EXPECT_EQ(trans.Record(I16(i)).From, (Place{Cell::Res, 1 - i % 2, 0})) << i;
+        EXPECT_EQ(trans.Record(I16(i)).From(), (Place{Cell::Res, 1 - i % 2, 0})) << i;
     }
     EXPECT_EQ(trans.GetTransID(), 32767);
     EXPECT_EQ(trans.TransTop(), 32767);

@@ -259,7 +259,7 @@ TEST_F(Reports, WinsInARowAndAPlaceAmongThem) {
 }
 
 TEST_F(Reports, SessionShowsTheRunningGameLast) {
-    EXPECT_EQ(GameLabelsOf(engine).Started.English(), "Game Started : ");
+    EXPECT_EQ(GameLabelsOf(engine).lblGameStarted.English(), "Game Started : ");
     engine.data().Set(keys::Autoplay, 0);
     Start("Freecell", 5);
     engine.commands().CloseGame();
@@ -272,10 +272,10 @@ TEST_F(Reports, SessionShowsTheRunningGameLast) {
     EXPECT_EQ(Line(rows, 0), "Freecell|5|Player1|0:00:00|0|Lost|0|");
     EXPECT_EQ(Line(rows, 1), "Zodiac|012|Player1|0:01:30|0|Running|80|");
     EXPECT_EQ(Line(SessionRows(engine, kDetailColumns), 1), "2|0:01:30|0|80|");
-    EXPECT_EQ(SessionLabels(engine)[1].English(), "Games Played : 1")
+    EXPECT_EQ(SessionLabelsOf(engine).lblSesPlayed.English(), "Games Played : 1")
         << "the running game doesn't count";
     engine.commands().CloseGame();
-    EXPECT_EQ(GameLabelsOf(engine).Time.English(), "Time Elapsed : 0:01:30")
+    EXPECT_EQ(GameLabelsOf(engine).lblGameTime.English(), "Time Elapsed : 0:01:30")
         << "the last figures stay";
 }
 

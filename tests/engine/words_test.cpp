@@ -417,7 +417,7 @@ const Claim kClaims[] = {
     {kUncovers,
      [](T t) {
          auto board = t.Lay("t0 -9C KH");
-         board.array.MoveCard({.PicId = 1, .To = {Cell::Waste, 0, 0}});
+         board.array.MoveCard({.PicID = 1, .To = {Cell::Waste, 0, 0}});
          return board.Text() == "t0 9C, w0 KH";
      }},
 

@@ -56,7 +56,7 @@ HistoryDialog::HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* p
     const QIcon icon = SmallIcon(QStringLiteral("move"));
     QList<QTreeWidgetItem*> items;
     QTreeWidgetItem* last = nullptr;
-    for (const HistoryRow& row : HistoryOf(log)) {
+    for (const HistoryRow& row : log.CreateLV()) {
         items << ItemOf(row, icon, dark);
         if (row.Mark == HistoryMark::Last) last = items.back();
     }

@@ -101,7 +101,7 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
 QWidget* SessionDialog::MakeThisSession() {
     auto* frame = new QGroupBox(tr("This Session"));
     auto* rows = new QVBoxLayout(frame);
-    for (const Phrase& text : SessionLabels(engine_)) lblSesElapsedTime_ = AddLabel(rows, text);
+    for (const Phrase& text : SessionLabelsOf(engine_).InOrder()) lblSesElapsedTime_ = AddLabel(rows, text);
     rows->addStretch();
     return frame;
 }
@@ -110,13 +110,13 @@ QWidget* SessionDialog::MakeThisGame() {
     auto* frame = new QGroupBox(tr("This Game"));
     auto* rows = new QVBoxLayout(frame);
     const GameLabels labels = GameLabelsOf(engine_);
-    AddLabel(rows, labels.Started);
-    AddLabel(rows, labels.Name);
-    AddLabel(rows, labels.Number);
-    lblGameScore_ = AddLabel(rows, labels.Score);
-    AddLabel(rows, labels.Moves);
-    lblGameTime_ = AddLabel(rows, labels.Time);
-    AddLabel(rows, labels.Player);
+    AddLabel(rows, labels.lblGameStarted);
+    AddLabel(rows, labels.lblGameName);
+    AddLabel(rows, labels.lblGameNo);
+    lblGameScore_ = AddLabel(rows, labels.lblGameScore);
+    AddLabel(rows, labels.lblGameMoves);
+    lblGameTime_ = AddLabel(rows, labels.lblGameTime);
+    AddLabel(rows, labels.lblPlayer);
     rows->addStretch();
     return frame;
 }
@@ -164,8 +164,8 @@ void SessionDialog::Tick() {
     lvSession_->UpdateRow(row, RunningRow(engine_, kSessionColumns), Ticking(kSessionColumns));
     lvSesChart_->UpdateRow(row, RunningRow(engine_, kDetailColumns), Ticking(kDetailColumns));
     const GameLabels labels = GameLabelsOf(engine_);
-    lblGameScore_->setText(Localized(labels.Score));
-    lblGameTime_->setText(Localized(labels.Time));
+    lblGameScore_->setText(Localized(labels.lblGameScore));
+    lblGameTime_->setText(Localized(labels.lblGameTime));
 }
 
 void SessionDialog::RefreshChart() {

@@ -35,13 +35,13 @@ void cArray::RandomInit(double GameNo) {
         // Rounded and not truncated: both ends of the range are half as likely as the rest.
         const double drawn = static_cast<double>(generator_.rtcRandomNext()) * n;
         const auto k = static_cast<std::size_t>(RoundHalfEven(drawn));
-        dealOrder_[j] = left[k];
+        DealOrder_[j] = left[k];
         left[k] = left[static_cast<std::size_t>(n)];
     }
 }
 
 void cArray::AddtoWaste(PicID id) {
-    MoveCard({.PicId = id,
+    MoveCard({.PicID = id,
               .To = {Cell::Waste, 0, GetTop(Cell::Waste, 0) + 1},
               .tMod = MoveKind::FromStock,
               .Speed = 3});
@@ -49,7 +49,7 @@ void cArray::AddtoWaste(PicID id) {
 
 void cArray::MoveWasteStock() {
     for (int i = GetTop(Cell::Waste, 0); i >= 0; --i) {
-        MoveCard({.PicId = GetTopPicID(Cell::Waste, 0),
+        MoveCard({.PicID = GetTopPicID(Cell::Waste, 0),
                   .To = {Cell::Stock, 0, GetTop(Cell::Stock, 0) + 1},
                   .tMod = MoveKind::Deal,
                   .DFace = FaceMode::Closed});

@@ -13,7 +13,7 @@ namespace varnello {
 
 /// One call of `MoveCard`, in the order of its arguments.
 struct CardMove {
-    PicID PicId;
+    varnello::PicID PicID;
     Place To;
     MoveKind tMod = MoveKind::Play;
     int Speed = 0;                    ///< steps of the flight; 0 or less: the card jumps
@@ -71,7 +71,7 @@ public:
 
     /// The card value at a position of the shuffled deck.
     std::int16_t GetRandom(int position) const {
-        return dealOrder_[static_cast<std::size_t>(position)];
+        return DealOrder_[static_cast<std::size_t>(position)];
     }
     /// Empties the tables and shuffles `TotalCards` cards for a game number.
     void Init(double GameNo);
@@ -109,7 +109,7 @@ private:
     static constexpr std::size_t kAllPiles = std::size_t{kCells} * kPilesPerCell;
     std::array<std::array<PicID, kCardObjects + 1>, kAllPiles> cardGrid_;
     std::array<std::int16_t, kAllPiles> topIndex_;
-    std::array<std::int16_t, kCardObjects + 1> dealOrder_{};
+    std::array<std::int16_t, kCardObjects + 1> DealOrder_{};
 };
 
 }  // namespace varnello

@@ -9,7 +9,7 @@ void cArray::MoveCard(CardMove move) {
                                 games_.Tag() != Tag::Spider;
     if (fullFoundation) return;
 
-    const Place from = table_.Card(move.PicId).Loc;
+    const Place from = table_.Card(move.PicID).Loc;
 
     // A closed card that comes free opens at once, before the card on it flies away.
     if (move.tMod != MoveKind::UndoRedo && from.Cell == Cell::Home && from.Pos >= 1) {
@@ -24,7 +24,7 @@ void cArray::MoveCard(CardMove move) {
     const bool logged = move.tMod != MoveKind::Deal && move.tMod != MoveKind::UndoRedo;
     if (logged) follower_.SaveTrans(move);
 
-    PlaceCard(move.PicId, to, move, move.Speed);
+    PlaceCard(move.PicID, to, move, move.Speed);
     for (int i = 1; i <= move.mCards; ++i) {
         const PicID carried = GetPicID(from.Cell, from.Pile, from.Pos + i);
         PlaceCard(carried, {to.Cell, to.Pile, to.Pos + i}, move, 0);

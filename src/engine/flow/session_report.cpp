@@ -41,15 +41,15 @@ Phrase SessionElapsedLabel(const Engine& engine) {
     return Say("Time Elapsed : %1", {Duration{engine.counters().SessionTime()}});
 }
 
-std::vector<Phrase> SessionLabels(const Engine& engine) {
+SessionLabels SessionLabelsOf(const Engine& engine) {
     const ScoreSummary summary = engine.score().SesSummary();
-    return {Say("Started : %1", {engine.dates().DateAndTime(engine.data().SesStartTime)}),
-            Say("Games Played : %1", {engine.score().SesTop()}),
-            Say("Games Won : %1", {summary.Won}),
-            Say("Games Lost : %1", {summary.Lost}),
-            Say("Total Score : %1", {summary.Score}),
-            Say("Total Moves : %1", {summary.Moves}),
-            SessionElapsedLabel(engine)};
+    return {.lblSesStarted = Say("Started : %1", {engine.dates().DateAndTime(engine.data().SesStartTime)}),
+            .lblSesPlayed = Say("Games Played : %1", {engine.score().SesTop()}),
+            .lblSesWon = Say("Games Won : %1", {summary.Won}),
+            .lblSesLost = Say("Games Lost : %1", {summary.Lost}),
+            .lblsesScore = Say("Total Score : %1", {summary.Score}),
+            .lblSesMoves = Say("Total Moves : %1", {summary.Moves}),
+            .lblSesElapsedTime = SessionElapsedLabel(engine)};
 }
 
 GameLabels GameLabelsOf(const Engine& engine) {
@@ -57,13 +57,13 @@ GameLabels GameLabelsOf(const Engine& engine) {
     const bool none = data.CurGName().empty();  // before the first game
     const std::string started =
         none ? std::string() : engine.dates().DateAndTime(data.GameStartTime);
-    return {.Started = Say("Game Started : %1", {started}),
-            .Name = Say("Game : %1", {data.CurGName()}),
-            .Number = Say("Game Number : %1", {data.CurGNo.Shown()}),
-            .Score = Say("Score : %1", {data.CurScore}),
-            .Moves = Say("Moves : %1", {data.CurMoves}),
-            .Time = Say("Time Elapsed : %1", {Duration{data.CurTime}}),
-            .Player = Say("Player Name : %1", {data.CurPlayer()})};
+    return {.lblGameStarted = Say("Game Started : %1", {started}),
+            .lblGameName = Say("Game : %1", {data.CurGName()}),
+            .lblGameNo = Say("Game Number : %1", {data.CurGNo.Shown()}),
+            .lblGameScore = Say("Score : %1", {data.CurScore}),
+            .lblGameMoves = Say("Moves : %1", {data.CurMoves}),
+            .lblGameTime = Say("Time Elapsed : %1", {Duration{data.CurTime}}),
+            .lblPlayer = Say("Player Name : %1", {data.CurPlayer()})};
 }
 
 }  // namespace varnello

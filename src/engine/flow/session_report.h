@@ -9,16 +9,27 @@
 /// The figures of the window "Session Statistics": this run of the program and the running game.
 namespace varnello {
 
-/// The labels of "This Session", from top to bottom; the last one is the elapsed time.
-std::vector<Phrase> SessionLabels(const Engine& engine);
+/// The labels of "This Session", from top to bottom.
+struct SessionLabels {
+    Phrase lblSesStarted, lblSesPlayed, lblSesWon, lblSesLost, lblsesScore, lblSesMoves,
+        lblSesElapsedTime;
+
+    std::array<Phrase, 7> InOrder() const {
+        return {lblSesStarted, lblSesPlayed, lblSesWon,        lblSesLost,
+                lblsesScore,   lblSesMoves,  lblSesElapsedTime};
+    }
+};
+SessionLabels SessionLabelsOf(const Engine& engine);
 Phrase SessionElapsedLabel(const Engine& engine);
 
 /// The labels of "This Game", from top to bottom; they keep the last figures after a game's end.
 struct GameLabels {
-    Phrase Started, Name, Number, Score, Moves, Time, Player;
+    Phrase lblGameStarted, lblGameName, lblGameNo, lblGameScore, lblGameMoves, lblGameTime,
+        lblPlayer;
 
     std::array<Phrase, 7> InOrder() const {
-        return {Started, Name, Number, Score, Moves, Time, Player};
+        return {lblGameStarted, lblGameName, lblGameNo, lblGameScore,
+                lblGameMoves,   lblGameTime, lblPlayer};
     }
 };
 GameLabels GameLabelsOf(const Engine& engine);

@@ -16,16 +16,16 @@ HistoryMark MarkOf(int index, int last) {
 
 }  // namespace
 
-std::vector<HistoryRow> HistoryOf(const cTrans& log) {
+std::vector<HistoryRow> cTrans::CreateLV() const {
     std::vector<HistoryRow> rows;
-    for (int i = 1; i <= log.TransTop(); ++i) {
+    for (int i = 1; i <= TransTop(); ++i) {
         const auto index = static_cast<std::int16_t>(i);
-        const TransRec& record = log.Record(index);
+        const TransRec& record = Record(index);
         rows.push_back({.Number = index,
-                        .Source = PlaceText(record.From),
-                        .Destination = PlaceText(record.To),
+                        .Source = PlaceText(record.From()),
+                        .Destination = PlaceText(record.To()),
                         .Cards = Saturate16(record.mCards + 1),
-                        .Mark = MarkOf(i, log.GetTransID())});
+                        .Mark = MarkOf(i, GetTransID())});
     }
     return rows;
 }

@@ -17,7 +17,4 @@ struct HistoryRow {
     HistoryMark Mark = HistoryMark::Applied;
 };
 
-/// The whole log, the undone moves included.
-std::vector<HistoryRow> HistoryOf(const cTrans& log);
-
 }  // namespace varnello

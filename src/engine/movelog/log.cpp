@@ -5,7 +5,7 @@
 namespace varnello {
 namespace {
 
-constexpr std::size_t kBlock = 100;  // the log grows in blocks, so that a move seldom allocates
+constexpr std::size_t kBlock = 100;  // records
 
 }  // namespace
 
@@ -13,31 +13,36 @@ cTrans::cTrans(cArray& array, Table& table, cData& data)
     : array_(array), table_(table), data_(data), records_(kBlock + 1) {}
 
 void cTrans::Clear() {
-    transID_ = 0;
-    transTop_ = 0;
-    multiFlag_ = false;
+    TransID_ = 0;
+    TransTop_ = 0;
+    MultiFlag_ = false;
     records_.assign(kBlock + 1, {});
 }
 
 void cTrans::SaveTrans(const CardMove& move) {
-    transTop_ = ++transID_;
-    if (transID_ >= records_.size()) records_.resize(records_.size() + kBlock);
-    At(transID_) = {.PicId = move.PicId,
-                    .From = table_.Card(move.PicId).Loc,
-                    .To = move.To,
+    TransTop_ = ++TransID_;
+    if (TransID_ > TransCap()) records_.resize(records_.size() + kBlock);
+    const Place from = table_.Card(move.PicID).Loc;
+    At(TransID_) = {.PicID = move.PicID,
+                    .FromCell = from.Cell,
+                    .FromPile = from.Pile,
+                    .FromPos = from.Pos,
+                    .DCell = move.To.Cell,
+                    .DPile = move.To.Pile,
+                    .DPos = move.To.Pos,
                     .mCards = Narrow16(move.mCards),
                     .MoveKind = move.tMod,
-                    .InGroup = multiFlag_};
+                    .InGroup = MultiFlag_};
 }
 
 void cTrans::EndMulti() {
-    At(transID_).InGroup = false;
-    multiFlag_ = false;
+    At(TransID_).InGroup = false;
+    MultiFlag_ = false;
 }
 
-std::int16_t cTrans::GetTransID() const { return Saturate16(static_cast<std::int64_t>(transID_)); }
+std::int16_t cTrans::GetTransID() const { return Saturate16(static_cast<std::int64_t>(TransID_)); }
 
-std::int16_t cTrans::TransTop() const { return Saturate16(static_cast<std::int64_t>(transTop_)); }
+std::int16_t cTrans::TransTop() const { return Saturate16(static_cast<std::int64_t>(TransTop_)); }
 
 std::string_view ConvertCell(Cell cell) {
     switch (cell) {

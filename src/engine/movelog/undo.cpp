@@ -10,49 +10,49 @@ constexpr int kQuickSpeed = 4;  // up to here a step is too quick for a sound
 
 void cTrans::UndoRecord(const TransRec& record, int Speed) {
     if (record.MoveKind == MoveKind::Uncover) {
-        array_.Turn(array_.GetPicID(record.From.Cell, record.From.Pile, record.From.Pos - 1),
+        array_.Turn(array_.GetPicID(record.FromCell, record.FromPile, record.FromPos - 1),
                     FaceMode::Closed);
     }
-    array_.MoveCard({.PicId = record.PicId,
-                     .To = record.From,
+    array_.MoveCard({.PicID = record.PicID,
+                     .To = record.From(),
                      .tMod = MoveKind::UndoRedo,
                      .Speed = Speed,
                      .mCards = record.mCards});
-    if (record.MoveKind == MoveKind::FromStock) array_.Turn(record.PicId, FaceMode::Closed);
-    if (record.MoveKind == MoveKind::ToStock) array_.Turn(record.PicId, FaceMode::Open);
+    if (record.MoveKind == MoveKind::FromStock) array_.Turn(record.PicID, FaceMode::Closed);
+    if (record.MoveKind == MoveKind::ToStock) array_.Turn(record.PicID, FaceMode::Open);
 }
 
 void cTrans::RedoRecord(const TransRec& record, int Speed) {
-    array_.MoveCard({.PicId = record.PicId,
-                     .To = record.To,
+    array_.MoveCard({.PicID = record.PicID,
+                     .To = record.To(),
                      .tMod = MoveKind::UndoRedo,
                      .Speed = Speed,
                      .mCards = record.mCards});
     if (record.MoveKind == MoveKind::Uncover) {
-        array_.Turn(array_.GetPicID(record.From.Cell, record.From.Pile, record.From.Pos - 1),
+        array_.Turn(array_.GetPicID(record.FromCell, record.FromPile, record.FromPos - 1),
                     FaceMode::Open);
     }
-    if (record.MoveKind == MoveKind::FromStock) array_.Turn(record.PicId, FaceMode::Open);
-    if (record.MoveKind == MoveKind::ToStock) array_.Turn(record.PicId, FaceMode::Closed);
+    if (record.MoveKind == MoveKind::FromStock) array_.Turn(record.PicID, FaceMode::Open);
+    if (record.MoveKind == MoveKind::ToStock) array_.Turn(record.PicID, FaceMode::Closed);
 }
 
 bool cTrans::Undo(int& Speed) {
-    while (transID_ >= 1) {
-        const TransRec record = At(transID_);
+    while (TransID_ >= 1) {
+        const TransRec record = At(TransID_);
         if (record.InGroup) Speed = kQuickSpeed;
         if (Speed > kQuickSpeed) data_.PlaySound(Sound::Undo);
         UndoRecord(record, Speed);
-        --transID_;
-        if (!At(transID_).InGroup || !array_.Playing()) return true;
+        --TransID_;
+        if (!At(TransID_).InGroup || !array_.Playing()) return true;
     }
     return false;
 }
 
 bool cTrans::Redo(int& Speed) {
-    while (transID_ != transTop_) {
-        if (At(transID_).InGroup) Speed = kQuickSpeed;
-        ++transID_;
-        const TransRec record = At(transID_);
+    while (TransID_ != TransTop_) {
+        if (At(TransID_).InGroup) Speed = kQuickSpeed;
+        ++TransID_;
+        const TransRec record = At(TransID_);
         if (Speed > kQuickSpeed) data_.PlaySound(Sound::Redo);
         RedoRecord(record, Speed);
         if (!record.InGroup || !array_.Playing()) return true;

@@ -43,7 +43,7 @@ void TakeRunOff(const Playfield& field, int pile) {
     if (field.games.GoalDiv() != 0) goal %= field.games.GoalDiv();
     const MultiStep step(field);
     for (int i = 0; i < kRanks; ++i) {
-        array.MoveCard({.PicId = array.GetTopPicID(Cell::Home, pile),
+        array.MoveCard({.PicID = array.GetTopPicID(Cell::Home, pile),
                         .To = {Cell::Goal, goal, array.GetTop(Cell::Goal, goal) + 1},
                         .Speed = 3});
     }
@@ -67,7 +67,7 @@ bool PlayToGoal(const Playfield& field, PicID id) {
                       : FitsOrder(field.table.Card(array.GetTopPicID(Cell::Goal, pile)), card,
                                   field.games.Order(Cell::Goal, pile), field.games.AK(Cell::Goal));
         if (!fits) continue;
-        array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, top + 1}, .Speed = 3});
+        array.MoveCard({.PicID = id, .To = {Cell::Goal, pile, top + 1}, .Speed = 3});
         // Heard only when the cards that followed have gone up as well.
         field.data.PlaySound(Sound::AutoPlay);
         return true;

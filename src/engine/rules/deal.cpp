@@ -28,7 +28,7 @@ void ShowGoalSlot(const Playfield& field, int pile, int mark) {
 }
 
 void PlaceOnGoal(const Playfield& field, PicID id, int pile) {
-    field.array.MoveCard({.PicId = id, .To = {Cell::Goal, pile, 0}, .tMod = MoveKind::Deal});
+    field.array.MoveCard({.PicID = id, .To = {Cell::Goal, pile, 0}, .tMod = MoveKind::Deal});
 }
 
 /// The cards that start the foundations, but for `GoalType::FirstCards`.
@@ -116,7 +116,7 @@ void FillStock(const Playfield& field) {
         const KesCard& card = field.table.Card(id);
         const bool stripped = games.StockType() == StockType::TwoSuits && card.Suit >= 2;
         if (card.Loc.Cell == Cell::Goal || stripped) continue;
-        array.MoveCard({.PicId = id,
+        array.MoveCard({.PicID = id,
                         .To = {Cell::Stock, 0, array.GetTop(Cell::Stock, 0) + 1},
                         .tMod = MoveKind::Deal,
                         .DFace = face});
@@ -125,7 +125,7 @@ void FillStock(const Playfield& field) {
 
 /// Deals the stock's top card.
 void DealTo(const Playfield& field, Cell cell, int pile, int pos, FaceMode face = FaceMode::Open) {
-    field.array.MoveCard({.PicId = field.array.GetTopPicID(Cell::Stock, 0),
+    field.array.MoveCard({.PicID = field.array.GetTopPicID(Cell::Stock, 0),
                           .To = {cell, pile, pos},
                           .tMod = MoveKind::Deal,
                           .Speed = 3,

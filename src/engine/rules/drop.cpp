@@ -40,7 +40,7 @@ std::optional<Place> Gestures::TargetOnTableau(PicID id, bool wide) const {
 }
 
 std::optional<Place> Gestures::TargetOnReserve(PicID id, bool wide) const {
-    if (dragCount_ != 0) return std::nullopt;
+    if (DragCount_ != 0) return std::nullopt;
     for (int pile = 0; pile < field_.games.Piles(Cell::Res); ++pile) {
         const Place place{Cell::Res, pile, 0};
         const bool free = field_.array.GetPicID(Cell::Res, pile, 0) == kNoCard;
@@ -51,7 +51,7 @@ std::optional<Place> Gestures::TargetOnReserve(PicID id, bool wide) const {
 
 std::optional<Place> Gestures::TargetOnFoundation(PicID id, bool wide) const {
     const cGames& games = field_.games;
-    if (games.Tag() == Tag::Spider || dragCount_ != 0) return std::nullopt;
+    if (games.Tag() == Tag::Spider || DragCount_ != 0) return std::nullopt;
     const KesCard& card = field_.table.Card(id);
     for (int pile = 0; pile < games.Piles(Cell::Goal); ++pile) {
         if (!HitCard(id, {Cell::Goal, pile, 0}, wide)) continue;
@@ -80,7 +80,7 @@ std::optional<Place> Gestures::Target(PicID id) const {
 void Gestures::CardDrop(PicID id) {
     const auto place = Target(id);
     if (!place) return CardBack(id);
-    field_.array.MoveCard({.PicId = id, .To = *place, .Speed = 3, .mCards = dragCount_});
+    field_.array.MoveCard({.PicID = id, .To = *place, .Speed = 3, .mCards = DragCount_});
 }
 
 }  // namespace varnello

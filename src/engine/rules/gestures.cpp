@@ -17,7 +17,7 @@ constexpr int kFanRight = 180;
 
 void Gestures::Reset() {
     dragging_ = false;
-    dragCount_ = 0;
+    DragCount_ = 0;
 }
 
 void Gestures::MouseDown(PicID id, double x, double y) {
@@ -64,8 +64,8 @@ bool Gestures::StillHeld(PicID id) const {
     const Place& at = field_.table.Card(id).Loc;
     if (at != heldAt_) return false;
     if (at.Cell == Cell::Res) return true;
-    const bool sameCount = field_.array.GetTop(at.Cell, at.Pile) == at.Pos + dragCount_;
-    return sameCount && (dragCount_ == 0 || IsRun(field_, id, dragCount_));
+    const bool sameCount = field_.array.GetTop(at.Cell, at.Pile) == at.Pos + DragCount_;
+    return sameCount && (DragCount_ == 0 || IsRun(field_, id, DragCount_));
 }
 
 void Gestures::Settle(PicID id) {
@@ -128,8 +128,8 @@ void Gestures::CardDown(PicID id) {
 
 void Gestures::LiftStack(PicID id) {
     const Place& at = field_.table.Card(id).Loc;
-    dragCount_ = CardsAbove(id);
-    for (int i = 1; i <= dragCount_; ++i) {
+    DragCount_ = CardsAbove(id);
+    for (int i = 1; i <= DragCount_; ++i) {
         const PicID carried = field_.array.GetPicID(Cell::Home, at.Pile, at.Pos + i);
         field_.table.BringToFront(carried);
         field_.array.ShowCard(carried);
@@ -153,7 +153,7 @@ void Gestures::PutAt(PicID id, double left, double top, bool bringToFront) {
 void Gestures::MoveCarried(PicID id, int left, int top, bool bringToFront) {
     const Place& at = field_.table.Card(id).Loc;
     const bool right = field_.games.FansRight();
-    for (int i = 1; i <= dragCount_; ++i) {
+    for (int i = 1; i <= DragCount_; ++i) {
         const PicID carried = field_.array.GetPicID(Cell::Home, at.Pile, at.Pos + i);
         PutAt(carried, Saturate16(right ? left + kFanRight * i : left),
               Saturate16(right ? top : top + kFanDown * i), bringToFront);

@@ -30,7 +30,7 @@ public:
 
     bool Dragging() const { return dragging_; }
     /// Cards carried above the one taken.
-    int Carried() const { return dragCount_; }
+    int Carried() const { return DragCount_; }
     /// What a press would do now.
     Grip GripOf(PicID id) const;
     /// Whether a click on the stock's slot would turn the waste back.
@@ -75,7 +75,7 @@ private:
     std::int16_t startLeft_ = 0;
     std::int16_t startTop_ = 0;
     Place heldAt_;       ///< the card's place at the press
-    int dragCount_ = 0;  ///< cards carried above the one taken
+    int DragCount_ = 0;  ///< cards carried above the one taken
     bool dragging_ = false;
 };
 

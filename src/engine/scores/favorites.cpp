@@ -29,10 +29,10 @@ std::optional<FavRecord> ParseFavLine(std::string_view line) {
 std::filesystem::path Favorites::File() const { return data_.AppDir() / "fav.dat"; }
 
 void Favorites::OpenFav() {
-    list_.clear();
+    CloseFav();
     ForEachLine(File(), [&](std::string_view line) {
-        if (list_.size() == kMaxFavorites) return;
-        if (auto record = ParseFavLine(line)) list_.push_back(std::move(*record));
+        if (FavList_.size() == kMaxFavorites) return;
+        if (auto record = ParseFavLine(line)) FavList_.push_back(std::move(*record));
     });
 }
 
@@ -48,7 +48,7 @@ bool Favorites::ClearFav() const {
 
 std::vector<std::string> Favorites::NumbersOf(std::string_view game) const {
     std::vector<std::string> numbers;
-    for (const FavRecord& record : list_) {
+    for (const FavRecord& record : FavList_) {
         if (record.Game == game) numbers.push_back(record.GameNo.Shown());
     }
     return numbers;

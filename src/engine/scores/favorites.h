@@ -25,6 +25,8 @@ public:
     explicit Favorites(const cData& data) : data_(data) {}
 
     std::filesystem::path File() const;
+    /// Empties the open list.
+    void CloseFav() { FavList_.clear(); }
     /// Reads the file anew; damaged lines are skipped, lines beyond the 16-bit count aren't read.
     void OpenFav();
     /// Appends one line; the open list stays as it is. False when the file can't be written.
@@ -33,17 +35,17 @@ public:
     /// removed.
     bool ClearFav() const;
 
-    std::int16_t FavTop() const { return static_cast<std::int16_t>(list_.size()); }
+    std::int16_t FavTop() const { return static_cast<std::int16_t>(FavList_.size()); }
     /// An entry of the open list, 1 to `FavTop`.
     const FavRecord& GetFav(std::int16_t index) const {
-        return list_.at(static_cast<std::size_t>(index - 1));
+        return FavList_.at(static_cast<std::size_t>(index - 1));
     }
     /// The numbers of one game in file order, as they are shown.
     std::vector<std::string> NumbersOf(std::string_view game) const;
 
 private:
     const cData& data_;
-    std::vector<FavRecord> list_;
+    std::vector<FavRecord> FavList_;
 };
 
 }  // namespace varnello

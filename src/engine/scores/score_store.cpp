@@ -61,7 +61,7 @@ void cScore::DropKept(std::string_view player) {
 }
 
 void cScore::AddSesGame(Outcome outcome) {
-    if (sesList_.size() < kMaxSesGames) sesList_.push_back(CurrentGame(outcome));
+    if (SesList_.size() < kMaxSesGames) SesList_.push_back(CurrentGame(outcome));
 }
 
 void cScore::OpenScore(const std::string& Player) {
@@ -146,7 +146,7 @@ std::vector<std::uint32_t> cScore::FirstOf(std::string_view game, std::size_t mo
 
 ScoreSummary cScore::SesSummary() const {
     ScoreSummary summary;
-    for (const ScoreRecord& record : sesList_) summary.Add(record);
+    for (const ScoreRecord& record : SesList_) summary.Add(record);
     return summary;
 }
 

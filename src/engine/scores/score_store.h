@@ -93,10 +93,10 @@ public:
         return topList_.at(static_cast<std::size_t>(Index)) - 1;
     }
 
-    std::int16_t SesTop() const { return static_cast<std::int16_t>(sesList_.size()); }
+    std::int16_t SesTop() const { return static_cast<std::int16_t>(SesList_.size()); }
     /// A game of this run, 1 to `SesTop`.
     const ScoreRecord& GetSes(std::int16_t Index) const {
-        return sesList_.at(static_cast<std::size_t>(Index - 1));
+        return SesList_.at(static_cast<std::size_t>(Index - 1));
     }
     ScoreSummary SesSummary() const;
 
@@ -127,7 +127,7 @@ private:
     std::vector<std::filesystem::path> unread_;
     mutable std::optional<ScoreSums> sums_;
     TopList topList_{};
-    std::vector<ScoreRecord> sesList_;
+    std::vector<ScoreRecord> SesList_;
 };
 
 }  // namespace varnello

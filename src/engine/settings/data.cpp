@@ -38,8 +38,7 @@ std::int16_t cData::Get(const NumberKey& key) const {
     for (const auto& [seen, value] : seen_) {
         if (seen == key.Key) return value;
     }
-    const auto stored = ParseWhole<std::int16_t>(store_.Read(kDataSection, key.Key, {}));
-    const std::int16_t value = stored.value_or(key.Default);
+    const std::int16_t value = ReadDataKey(key.Key, key.Default);
     if (readers_ > 0) seen_.emplace_back(key.Key, value);
     return value;
 }
@@ -47,7 +46,16 @@ std::int16_t cData::Get(const NumberKey& key) const {
 void cData::Set(const NumberKey& key, std::int16_t value) {
     if (Get(key) == value) return;
     std::erase_if(seen_, [&](const auto& seen) { return seen.first == key.Key; });
-    store_.Write(kDataSection, key.Key, std::to_string(value));
+    SaveDataKey(key.Key, value);
+}
+
+std::int16_t cData::ReadDataKey(std::string_view key, std::int16_t fallback) const {
+    const auto stored = ParseWhole<std::int16_t>(store_.Read(kDataSection, key, {}));
+    return stored.value_or(fallback);
+}
+
+void cData::SaveDataKey(std::string_view key, std::int16_t value) {
+    store_.Write(kDataSection, key, std::to_string(value));
 }
 
 void cData::Together(const std::function<void()>& change) {

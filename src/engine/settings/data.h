@@ -155,6 +155,8 @@ public:
     std::int16_t CurScore = 0;
 
 private:
+    std::int16_t ReadDataKey(std::string_view key, std::int16_t fallback) const;
+    void SaveDataKey(std::string_view key, std::int16_t value);
     std::string Slot(std::string_view section, std::int16_t index) const;
     void Slot(std::string_view section, std::int16_t index, std::string_view text);
     std::int16_t CountSlots(std::string_view section, std::int16_t slots) const;
