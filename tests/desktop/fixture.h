@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
@@ -29,6 +30,23 @@ void WhenOpen(std::function<void(Dialog&)> act) {
         if (QTest::currentTestFailed() && open) open->close();
     });
     timer->start(5);
+}
+
+/// The child with this accessible name.
+template <typename Widget>
+Widget* Named(const QWidget& window, const QString& name) {
+    for (Widget* child : window.findChildren<Widget*>()) {
+        if (child->accessibleName() == name) return child;
+    }
+    qFatal("no child called %s", qPrintable(name));
+}
+
+template <typename Button = QAbstractButton>
+Button* Captioned(const QWidget& window, const QString& caption) {
+    for (Button* child : window.findChildren<Button*>()) {
+        if (child->text() == caption) return child;
+    }
+    qFatal("no button %s", qPrintable(caption));
 }
 
 /// A main window whose settings live in memory and whose clock the test moves; score files go to a

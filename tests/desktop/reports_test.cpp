@@ -20,23 +20,6 @@ using namespace varnello;
 
 namespace {
 
-/// The child with this accessible name.
-template <typename Widget>
-Widget* Named(const QWidget& window, const QString& name) {
-    for (Widget* child : window.findChildren<Widget*>()) {
-        if (child->accessibleName() == name) return child;
-    }
-    qFatal("no child called %s", qPrintable(name));
-}
-
-template <typename Button = QAbstractButton>
-Button* Captioned(const QWidget& window, const QString& caption) {
-    for (Button* child : window.findChildren<Button*>()) {
-        if (child->text() == caption) return child;
-    }
-    qFatal("no button %s", qPrintable(caption));
-}
-
 QString CellText(const ReportView& view, int row, int column) {
     return view.model()->index(row, column).data().toString();
 }

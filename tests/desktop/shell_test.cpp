@@ -173,8 +173,8 @@ private Q_SLOTS:
         fixture.Start("Freecell");
         const KesCard& card = fixture.Card(fixture.Top(Cell::Home, 0));
         const double corner = (table.width() - 1032) / 2.0 - 20 / 15.0;
-        QCOMPARE(table.CardCentre(fixture.Top(Cell::Home, 0)).x(),
-                 qRound(corner + (card.Left + 532.5) / 15));
+        QCOMPARE(table.CardRect(card.Left, card.Top).left(),
+                 qRound(corner) + qRound(card.Left / 15));
     }
 
     void TheCloseBoxBooksARunningGame() {

@@ -30,8 +30,7 @@ public:
     void Drop(PicID card, int left, int top) {
         const QPoint grip = Grip(card);
         const QPoint from = PointOn(card, grip);
-        const QPoint by = OnScreen({left - qRound(engine_.table().Card(card).Left),
-                                    top - qRound(engine_.table().Card(card).Top)});
+        const QPoint by = view_.CardRect(left, top).topLeft() - PlaceOf(card).topLeft();
         xdotool(MoveTo(view_, from) + QStringList{"mousedown", "1"} + MoveTo(view_, from + by / 2) +
                 MoveTo(view_, from + by) + QStringList{"mouseup", "1"});
     }
@@ -49,9 +48,14 @@ private:
         return {532, 720};
     }
     QPoint PointOn(PicID id, const QPoint& grip) const {
-        return view_.CardCentre(id) + OnScreen(grip - QPoint(532, 720));
+        const QRect at = PlaceOf(id);
+        return at.topLeft() +
+               QPoint(grip.x() * at.width() / kCardWidth, grip.y() * at.height() / kCardHeight);
     }
-    QPoint OnScreen(const QPoint& twips) const { return twips * view_.ZoomPercent() / 1500; }
+    QRect PlaceOf(PicID id) const {
+        const KesCard& card = engine_.table().Card(id);
+        return view_.CardRect(card.Left, card.Top);
+    }
 
     Engine& engine_;
     TableView& view_;

@@ -23,17 +23,6 @@ class CustomizeDialog : public QDialog {
 public:
     CustomizeDialog(Engine& engine, QWidget* parent);
 
-    QTabWidget* tabs() const { return SSTab1_; }
-    QTreeWidget* backgrounds() const { return tvBGround_; }
-    QTreeWidget* decks() const { return tvDeck_; }
-    QSlider* Slider(int index) const { return sliders_.at(static_cast<std::size_t>(index - 1)); }
-    QListWidget* sounds() const { return lvSound_; }
-    QCheckBox* fade() const { return chkFade_; }
-    QPushButton* custom() const { return cmdCustom_; }
-    QPushButton* clearRecent() const { return cmdClearRecent_; }
-    QComboBox* range() const { return imcRange_; }
-    const LookPreview* deckPreview() const { return picDeckBack_; }
-
 private:
     QWidget* MakeGeneral();
     QWidget* MakeCounters();

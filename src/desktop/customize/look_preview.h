@@ -17,8 +17,6 @@ public:
 
     void ShowBackground(const BackgroundChoice& choice);
     void ShowDeck(int deckIndex);
-    int Deck() const { return deckIndex_.value_or(0); }
-    const BackgroundChoice& Background() const { return choice_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

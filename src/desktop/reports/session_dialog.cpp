@@ -101,7 +101,8 @@ SessionDialog::SessionDialog(Engine& engine, QWidget* parent)
 QWidget* SessionDialog::MakeThisSession() {
     auto* frame = new QGroupBox(tr("This Session"));
     auto* rows = new QVBoxLayout(frame);
-    for (const Phrase& text : SessionLabelsOf(engine_).InOrder()) lblSesElapsedTime_ = AddLabel(rows, text);
+    for (const Phrase& text : SessionLabelsOf(engine_).InOrder())
+        lblSesElapsedTime_ = AddLabel(rows, text);
     rows->addStretch();
     return frame;
 }

@@ -193,12 +193,6 @@ PicID TableView::CardAt(const QPointF& devicePixels) {
     return CardAtPixel(engine_.table(), Pictures(), PixelOf(devicePixels));
 }
 
-QPoint TableView::CardCentre(PicID id) const {
-    const KesCard& card = engine_.table().Card(id);
-    const QPointF twips(card.Left + kCardWidth / 2.0, card.Top + kCardHeight / 2.0);
-    return (twips / kTwipsPerPixel * zoom_.Factor() + QPointF(TableCorner()) / Ratio()).toPoint();
-}
-
 QRect TableView::CardRect(double left, double top) {
     const QRectF device = RectOnTable(Pictures(), left, top).translated(TableCorner());
     return QRectF(device.topLeft() / Ratio(), device.size() / Ratio()).toRect();

@@ -32,8 +32,6 @@ public:
     void RefreshBackground();
     /// Takes the deck's back anew from the settings. A number without one leaves the old back.
     void RefreshDecks();
-    /// The centre of the visible part of a card, in widget coordinates.
-    QPoint CardCentre(PicID id) const;
     /// Where a card is drawn whose place on the table is given in twips, in widget coordinates.
     QRect CardRect(double left, double top);
     const Engine& engine() const { return engine_; }
@@ -49,7 +47,6 @@ public:
     void ZoomBy(int direction);
     /// Tells once how the table is made larger.
     void TellOfZoom();
-    int ZoomPercent() const { return zoom_.Percent(); }
 
 protected:
     bool event(QEvent* event) override;

@@ -43,7 +43,8 @@ Phrase SessionElapsedLabel(const Engine& engine) {
 
 SessionLabels SessionLabelsOf(const Engine& engine) {
     const ScoreSummary summary = engine.score().SesSummary();
-    return {.lblSesStarted = Say("Started : %1", {engine.dates().DateAndTime(engine.data().SesStartTime)}),
+    return {.lblSesStarted =
+                Say("Started : %1", {engine.dates().DateAndTime(engine.data().SesStartTime)}),
             .lblSesPlayed = Say("Games Played : %1", {engine.score().SesTop()}),
             .lblSesWon = Say("Games Won : %1", {summary.Won}),
             .lblSesLost = Say("Games Lost : %1", {summary.Lost}),
