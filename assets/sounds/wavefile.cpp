@@ -1,6 +1,5 @@
 #include "wavefile.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <fstream>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include "engine/definitions/catalogue.h"
 #include "engine/null_desktop.h"
 #include "engine/rules/playfield.h"

@@ -1,5 +1,4 @@
 #include <QFile>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>

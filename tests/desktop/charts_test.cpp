@@ -2,7 +2,6 @@
 #include <QPaintEngine>
 #include <QTest>
 #include <QToolTip>
-#include <cmath>
 #include <memory>
 
 #include "desktop/charts/row_chart.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
-#include <array>
 #include <map>
-#include <memory>
 
 #include "desktop/window/table_view.h"
 

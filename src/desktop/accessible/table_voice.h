@@ -3,7 +3,6 @@
 #include <QObject>
 #include <array>
 #include <optional>
-#include <vector>
 
 #include "desktop/window/motion.h"
 #include "desktop/window/table_view.h"

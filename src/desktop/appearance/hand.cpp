@@ -2,7 +2,6 @@
 
 #include <QRegion>
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace varnello {

@@ -1,7 +1,6 @@
 #include "desktop/charts/share_chart.h"
 
 #include <QLineF>
-#include <QLocale>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>

@@ -10,7 +10,6 @@
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <algorithm>
-#include <numeric>
 
 #include "desktop/platform/text.h"
 #include "desktop/platform/words.h"

@@ -45,6 +45,7 @@ public:
 
     /// Makes the table larger (1), smaller (-1) or as large as it is made (0) on the screen.
     void ZoomBy(int direction);
+    int ZoomPercent() const { return zoom_.Percent(); }
     /// Tells once how the table is made larger.
     void TellOfZoom();
 

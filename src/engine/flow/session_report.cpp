@@ -1,10 +1,5 @@
 #include "engine/flow/session_report.h"
 
-#include <algorithm>
-
-#include "engine/common/calendar.h"
-#include "engine/common/rounding.h"
-
 namespace varnello {
 namespace {
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "engine/movelog/log.h"
 
 namespace varnello {

@@ -1,6 +1,7 @@
 #include "engine/settings/data.h"
 
 #include <algorithm>
+#include <array>
 
 #include "engine/common/number_text.h"
 #include "engine/definitions/catalogue.h"
