@@ -64,6 +64,7 @@ QVariant ChosenTag(const QTreeWidget* tree) {
 }
 
 QTreeWidgetItem* Root(QTreeWidget* tree, const QString& text) {
+    tree->setHeaderLabel(text);  // for assistive tools
     tree->setHeaderHidden(true);
     tree->setAccessibleName(text);
     auto* root = new QTreeWidgetItem(tree, {text});

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
+#include <algorithm>
 
 #include "desktop/platform/text.h"
 
@@ -41,7 +43,9 @@ struct ToLocalized {
     QString operator()(double number) const { return AsFigure(ToQt(English(number))); }
     QString operator()(Duration time) const { return AsFigure(ToQt(English(time))); }
     QString operator()(Grouped number) const {
-        return number.Value == 0 ? QString() : QLocale().toString(number.Value, 'f', 0);
+        QLocale locale;
+        locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
+        return number.Value == 0 ? QString() : locale.toString(number.Value, 'f', 0);
     }
     QString operator()(std::string_view text) const { return Translate(text); }
     QString operator()(const std::string& own) const { return ToQt(own); }
@@ -50,20 +54,23 @@ struct ToLocalized {
 }  // namespace
 
 void LoadTranslations() {
-    const auto load = [](QTranslator& into, const QString& name, const QString& folder) {
-        return into.load(name, folder);
-    };
+    // A translator's own file, still to be tried, comes before the one that is built in.
+    const QStringList folders = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
+                                                          QStringLiteral("varnello/translations"),
+                                                          QStandardPaths::LocateDirectory)
+                                << QStringLiteral(":/translations");
     for (QString language : QLocale().uiLanguages()) {
         language.replace('-', '_');
         const QLocale locale(language);
         if (locale.language() == QLocale::English || locale.language() == QLocale::C) return;
-        Translations& loaded = Loaded();
-        if (!load(loaded.program, QStringLiteral("varnello_") + language,
-                  QStringLiteral(":/translations"))) {
-            continue;
-        }
-        (void)load(loaded.toolkit, QStringLiteral("qtbase_") + language,
-                   QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        auto& [program, toolkit] = Loaded();
+        const bool found =
+            std::any_of(folders.begin(), folders.end(), [&, &own = program](const QString& folder) {
+                return own.load(QStringLiteral("varnello_") + language, folder);
+            });
+        if (!found) continue;
+        (void)toolkit.load(QStringLiteral("qtbase_") + language,
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         return;
     }
 }

@@ -11,8 +11,9 @@
 namespace varnello {
 
 /// Loads the translations of the program and the toolkit for the first of the user's languages that
-/// has any; English needs none. May be called before there is an application, which takes them with
-/// `InstallTranslations`.
+/// has any; English needs none. `varnello_LANGUAGE.qm` lies in the program, or in the user's or the
+/// system's data folder in "varnello/translations". May be called before there is an application,
+/// which takes them with `InstallTranslations`.
 void LoadTranslations();
 void InstallTranslations();
 /// A text of `context` for those who can't wait for an application.
