@@ -101,6 +101,7 @@ void Chart::paintEvent(QPaintEvent*) {
     frame.state |= QStyle::State_Sunken;
     style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setLayoutDirection(Qt::LeftToRight);  // scales go one way in all languages
     if (!blank_) return Draw(painter, Area());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(Area(), Qt::AlignCenter | Qt::TextWordWrap, accessibleDescription());

@@ -18,8 +18,10 @@ void ReportCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QRect icon(
             room.topLeft() + QPoint(0, (room.height() - cell.decorationSize.height()) / 2),
             cell.decorationSize);
-        cell.icon.paint(painter, icon, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
+        cell.icon.paint(painter, QStyle::visualRect(cell.direction, cell.rect, icon),
+                        Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
         room.setLeft(icon.right() + kMargin);
+        room = QStyle::visualRect(cell.direction, cell.rect, room);
     }
     const bool active = cell.state & QStyle::State_Active;
     painter->save();

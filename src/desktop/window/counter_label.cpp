@@ -113,6 +113,7 @@ void CounterLabel::paintEvent(QPaintEvent*) {
 
 void CounterLabel::DrawCaption(QPainter& painter, QPoint at, const QString& caption) const {
     const int baseline = at.y() + fontMetrics().ascent();
+    painter.setLayoutDirection(caption.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     if (caption.isRightToLeft()) {  // its parts don't stand in the order of the text
         painter.drawText(at.x(), baseline, caption);
         return;
