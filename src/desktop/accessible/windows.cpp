@@ -4,8 +4,11 @@
 #include <QLabel>
 
 #include "desktop/accessible/table_tree.h"
+#include "desktop/charts/chart.h"
+#include "desktop/customize/look_preview.h"
 #include "desktop/help/help_window.h"
 #include "desktop/window/main_window.h"
+#include "desktop/window/toolbar.h"
 
 namespace varnello {
 namespace {
@@ -52,6 +55,20 @@ QAccessibleInterface* NodeOf(const QString&, QObject* object) {
     if (auto* window = dynamic_cast<MainWindow*>(object)) return new MainWindowNode(*window);
     if (auto* help = dynamic_cast<HelpWindow*>(object)) {
         return new QAccessibleWidget(help, QAccessible::Window);
+    }
+    if (auto* chart = dynamic_cast<Chart*>(object)) {
+        return new QAccessibleWidget(chart, QAccessible::Chart);
+    }
+    if (auto* preview = dynamic_cast<LookPreview*>(object)) {
+        return new QAccessibleWidget(preview, QAccessible::Graphic);
+    }
+    if (auto* toolbar = dynamic_cast<Toolbar*>(object)) {
+        return new QAccessibleWidget(toolbar, QAccessible::ToolBar, Toolbar::tr("Toolbar"));
+    }
+    if (auto* line = dynamic_cast<QFrame*>(object);
+        line && line->metaObject() == &QFrame::staticMetaObject &&
+        line->frameShape() == QFrame::VLine) {
+        return new QAccessibleWidget(line, QAccessible::Separator);
     }
     auto* label = dynamic_cast<QLabel*>(object);
     auto* window = label ? dynamic_cast<MainWindow*>(label->window()) : nullptr;

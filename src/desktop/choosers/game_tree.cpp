@@ -8,6 +8,7 @@
 namespace varnello {
 
 GameTree::GameTree(const cData& data) {
+    setHeaderLabel(tr("Games"));  // for assistive tools
     setHeaderHidden(true);
     setIconSize(kGameMarkSize);
     setUniformRowHeights(true);

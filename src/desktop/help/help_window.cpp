@@ -4,6 +4,7 @@
 #include <QShortcut>
 #include <QShowEvent>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/appearance/icons.h"
@@ -36,6 +37,7 @@ HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
     all->addWidget(browser_);
     connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
         found_->clear();
+        browser_->setAccessibleName(PageOf(page.path()).title);
         setWindowTitle(tr("%1 - %2", "a help page, the program")
                            .arg(PageOf(page.path()).title, ToQt(kProductName)));
     });
@@ -50,6 +52,7 @@ HelpWindow::HelpWindow(SettingsStore& store, const QWidget& table)
 
 void HelpWindow::AddTools() {
     auto* tools = new QToolBar;
+    tools->setAccessibleName(tr("Pages"));
     layout()->addWidget(tools);
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools->setIconSize(QSize(16, 16));
@@ -69,6 +72,7 @@ void HelpWindow::AddTools() {
     find_->setPlaceholderText(tr("Find in page"));
     find_->setAccessibleName(find_->placeholderText());
     find_->setClearButtonEnabled(true);
+    for (auto* clear : find_->findChildren<QToolButton*>()) clear->setAccessibleName(tr("Clear"));
     find_->setMaximumWidth(kFindWidth);
     found_->setContentsMargins(8, 0, 8, 0);
     tools->addSeparator();

@@ -44,6 +44,7 @@ HistoryDialog::HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* p
     : QDialog(parent), lvHistory_(new QTreeWidget) {
     setWindowTitle(tr("Game History"));
     lvHistory_->setHeaderLabels({QString(), tr("Source"), tr("Destination"), tr("Cards")});
+    lvHistory_->headerItem()->setData(0, Qt::AccessibleTextRole, tr("Number"));
     lvHistory_->setRootIsDecorated(false);
     lvHistory_->setUniformRowHeights(true);
     lvHistory_->setAllColumnsShowFocus(true);

@@ -18,7 +18,9 @@ int ReportModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal) return {};
+    if (orientation != Qt::Horizontal) {  // not seen, but read by assistive tools
+        return role == Qt::DisplayRole ? QVariant(AsFigure(section + 1)) : QVariant();
+    }
     if (role == Qt::DisplayRole) return headings_.at(section).title;
     if (role == Qt::TextAlignmentRole) {
         const bool right = KindOf(section) == ColumnKind::Value;

@@ -1812,6 +1812,14 @@ Spiel %2, %3</translation>
         <source>Not on this page</source>
         <translation>Nicht auf dieser Seite</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
 </context>
 <context>
     <name>varnello::HighScoreDialog</name>
@@ -1897,6 +1905,10 @@ Spiel %2, %3</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
     </message>
 </context>
 <context>
@@ -2280,6 +2292,10 @@ Spiel %2, %3</translation>
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
     </message>
 </context>
 </TS>
