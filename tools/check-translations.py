@@ -1,6 +1,9 @@
 #!/usr/bin/env python3
 """Names each text of the given .ts files that has no finished translation, or one whose places
-(%1, %n), mnemonic (&), or blanks at its ends aren't those of the English text."""
+(%1, %n), mnemonic (&), or blanks at its ends aren't those of the English text; and each page of the
+help that a language has other tags of, or lacks although it has some."""
+import glob
+import os
 import re
 import sys
 import xml.etree.ElementTree as ElementTree
@@ -26,7 +29,25 @@ def faults(message):
         yield f"has lost its number: {texts[-1]!r}"
 
 
+def tags(page):
+    with open(page, encoding="utf-8") as text:
+        return [" ".join(tag.split()) for tag in re.findall("<[^>]+>", text.read())]
+
+
+def pages_at_fault():
+    for language in glob.glob("assets/help/??/"):
+        for page in glob.glob("assets/help/*.html") + glob.glob("assets/help/games/*.html"):
+            own = language + os.path.relpath(page, "assets/help")
+            if not os.path.exists(own):
+                yield f"{own} is missing"
+            elif tags(own) != tags(page):
+                yield f"{own} has other tags than {page}"
+
+
 found = False
+for page in pages_at_fault():
+    found = True
+    print(page)
 for file in sys.argv[1:]:
     for context in ElementTree.parse(file).getroot().iter("context"):
         for message in context.iter("message"):

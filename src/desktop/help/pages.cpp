@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <algorithm>
 
 #include "desktop/platform/text.h"
 #include "desktop/platform/words.h"
@@ -17,8 +18,10 @@ struct Pages {
 
 const QString kGamePrefix = QStringLiteral("game:");
 
+/// In the user's language if there is such a page.
 QString Prose(const QString& file) {
-    QFile page(QStringLiteral(":/help/%1.html").arg(file));
+    QFile page(QStringLiteral(":/help/%1/%2.html").arg(Language(), file));
+    if (!page.exists()) page.setFileName(QStringLiteral(":/help/%1.html").arg(file));
     return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
 }
 
@@ -39,13 +42,14 @@ QString Facts(const GameRow& row) {
     return html + QStringLiteral("</table>");
 }
 
+/// The prose of a game with its rules before the hints.
 QString GamePage(const GameRow& row) {
-    const QString name = ToQt(row.Name);
-    return QStringLiteral("<p><img src=\"preview:%1\"></p>").arg(name) +
-           Prose(FileOf(row.Name))
-               .replace(QStringLiteral("<h2>Hints</h2>"),
-                        QStringLiteral("<h2>%1</h2>%2<h2>Hints</h2>")
-                            .arg(Pages::tr("Rules").toHtmlEscaped(), Facts(row)));
+    QString html = Prose(FileOf(row.Name));
+    const qsizetype hints = html.indexOf(QStringLiteral("<h2>"));
+    html.insert(
+        std::max<qsizetype>(hints, 0),
+        QStringLiteral("<h2>%1</h2>%2").arg(Pages::tr("Rules").toHtmlEscaped(), Facts(row)));
+    return QStringLiteral("<p><img src=\"preview:%1\"></p>").arg(ToQt(row.Name)) + html;
 }
 
 /// The other pages in a column, and beside it all games with their previews.

@@ -81,6 +81,8 @@ void InstallTranslations() {
     }
 }
 
+QString Language() { return Loaded().program.language().section(QLatin1Char('_'), 0, 0); }
+
 QString Translated(const char* context, const char* english) {
     const QString found = Loaded().program.translate(context, english);
     return found.isEmpty() ? QString::fromUtf8(english) : found;

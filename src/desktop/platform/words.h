@@ -16,6 +16,8 @@ namespace varnello {
 /// which takes them with `InstallTranslations`.
 void LoadTranslations();
 void InstallTranslations();
+/// The language of the program's translation, as in "de"; empty without one.
+QString Language();
 /// A text of `context` for those who can't wait for an application.
 QString Translated(const char* context, const char* english);
 
