@@ -101,7 +101,7 @@ def show_all():
     wait_for("the selector", lambda: len(windows()) == 2)
     xdo("key", "Escape")
     wait_for("the main window alone", lambda: len(windows()) == 1)
-    xdo("key", "F2")
+    press(0, 0)  # a new game
     wait_for("a deal", lambda: "[" in windows()[0].name)
     main = menu_items()[0]
     xdo("mousemove", "640", "450", "click", "1")  # the rest of the deal is shown at once

@@ -116,8 +116,10 @@ QStringList CutOff(const QWidget& window) {
         const auto shows = [&](const char* kind) { return widget->inherits(kind); };
         QString text = widget->property("text").toString() + widget->accessibleName();
         bool fits = true;
-        if (shows("QComboBox") || shows("QTabBar") || shows("QGroupBox") ||
-            ((shows("QLabel") || shows("QAbstractButton")) && !text.isEmpty())) {
+        if (shows("QGroupBox")) {
+            fits = Fits(widget->minimumSizeHint(), widget->size());
+        } else if (shows("QComboBox") || shows("QTabBar") ||
+                   ((shows("QLabel") || shows("QAbstractButton")) && !text.isEmpty())) {
             fits = Fits(widget->sizeHint(), widget->size());
         } else if (const auto* header = qobject_cast<const QHeaderView*>(widget)) {
             for (int i = 0; header->orientation() == Qt::Horizontal && i < header->count(); ++i) {
