@@ -60,15 +60,17 @@ public:
 
     /// Whether the screen shows what the table would look like if it were painted afresh.
     bool ScreenIsTrue() {
-        for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
         TableView& table = window.table();
         const QPoint at = table.mapTo(&window, QPoint(0, 0));
-        const QImage screen =
-            window.screen()
-                ->grabWindow(window.winId(), at.x(), at.y(), table.width(), table.height())
-                .toImage()
-                .convertToFormat(QImage::Format_RGB32);
-        return screen == table.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const auto isTrue = [&] {
+            const QImage screen =
+                window.screen()
+                    ->grabWindow(window.winId(), at.x(), at.y(), table.width(), table.height())
+                    .toImage()
+                    .convertToFormat(QImage::Format_RGB32);
+            return screen == table.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        return QTest::qWaitFor(isTrue, 1000);  // a drag is painted with the next frame
     }
 
     /// A point of the card, in twips inside it, that no other card covers; none: (-1, -1).

@@ -61,12 +61,13 @@ TableView::TableView(Motion& motion, Engine& engine, QWidget* parent)
 }
 
 void TableView::SyncSoon() {
-    if (frame_.isActive()) return;
     // A mouse may tell of its moves several times in a frame of the display: what is in the hand is
     // painted once in each.
-    const double frame = 1000 / std::clamp(screen()->refreshRate(), kSlowestRate, kFastestRate);
     const bool waits = Carrying() && synced_.isValid();
-    frame_.start(waits ? std::max(static_cast<int>(frame - double(synced_.elapsed())), 0) : 0);
+    if (!waits) return frame_.start(0);
+    if (frame_.isActive()) return;
+    const double frame = 1000 / std::clamp(screen()->refreshRate(), kSlowestRate, kFastestRate);
+    frame_.start(std::max(static_cast<int>(frame - double(synced_.elapsed())), 0));
 }
 
 void TableView::Sync() {
