@@ -68,7 +68,9 @@ copy_sources() {
         --compile-no-warning-as-error >"$log"  # a fault may leave something unused
 }
 
-build() { ninja -C "$build" "$1" >"$log" 2>&1 || { cat "$log" >&2 && fail "$1 doesn't build."; }; }
+build() {
+    ninja -C "$build" "$1" >"$log" 2>&1 || { grep -m 3 'error' "$log" >&2; fail "$1 doesn't build."; }
+}
 
 # Prints the name of the first golden script that has another output, and fails then.
 try_scripts() {
@@ -120,9 +122,13 @@ try_mutant() {
     content=$(<"$root/src/$file")
     line=$(printf '%s' "${content%%"$original"*}" | wc -l)
     printf '%s\n' "${content/"$original"/"$replacement"}" >"$source/src/$file"
-    local name
-    name=$(first_failure) || fail "That was the mutant of $file:$((line + 1))."
+    local name built=yes
+    name=$(first_failure) || built=no
     cp "$root/src/$file" "$source/src/$file"
+    if [ $built = no ]; then
+        printf 'NO BUILD  %s\n' "$file:$((line + 1))"
+        return 1
+    fi
     if [ -n "$name" ]; then
         printf 'killed    %-34s %s\n' "$file:$((line + 1))" "$name"
         return 0
