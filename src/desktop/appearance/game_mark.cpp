@@ -16,7 +16,7 @@ namespace varnello {
 namespace {
 
 constexpr QSize kCard(static_cast<int>(kCardWidth), static_cast<int>(kCardHeight));  // twips
-constexpr float kCards = 0.75F;  // of the text's colour
+constexpr float kCards = 0.55F;  // of the text's colour
 constexpr float kSlots = 0.3F;
 constexpr double kSlim = 0.8;  // of a card's width, so that neighbours stay apart
 
