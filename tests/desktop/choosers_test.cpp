@@ -99,6 +99,7 @@ private Q_SLOTS:
                                         {Qt::Key_End, "Zodiac"}}) {
             QTest::keyClick(select.tree(), key);
             QCOMPARE(select.tree()->SelectedGame(), game);
+            QCOMPARE(select.findChild<QLabel*>()->text(), game);
         }
         // Tab reaches every control, the rules after the way out.
         QStringList reached;

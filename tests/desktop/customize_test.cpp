@@ -2,6 +2,7 @@
 #include <QMessageBox>
 
 #include "desktop/customize/customize_dialog.h"
+#include "desktop/platform/text.h"
 #include "fixture.h"
 
 // What the customize dialog does at once, and what waits for OK.
@@ -63,6 +64,60 @@ private Q_SLOTS:
         QCOMPARE(Parts(dialog).sounds->item(1)->text(), "Card Up");
         QCOMPARE(Parts(dialog).sounds->item(1)->checkState(), Qt::Unchecked);
         QCOMPARE(Parts(dialog).sounds->item(6)->checkState(), Qt::Checked);
+    }
+
+    void EachControlSetsItsOwnSetting() {
+        const auto box = [](const char* text) {
+            return [=](CustomizeDialog& dialog) {
+                for (auto* one : dialog.findChildren<QCheckBox*>()) {
+                    if (one->text() == text) one->click();
+                }
+            };
+        };
+        const auto slider = [](const char* name) {
+            return [=](CustomizeDialog& dialog) { Named<QSlider>(dialog, name)->setValue(7); };
+        };
+        const auto sound = [](const char* name) {
+            return [=](CustomizeDialog& dialog) {
+                QListWidgetItem* item =
+                    Parts(dialog).sounds->findItems(name, Qt::MatchExactly).value(0);
+                item->setCheckState(item->checkState() ? Qt::Unchecked : Qt::Checked);
+            };
+        };
+        const std::pair<const char*, std::function<void(CustomizeDialog&)>> controls[] = {
+            {"ShowTime", box("Show Time")},
+            {"ShowScore", box("Show Score")},
+            {"ShowMoves", box("Show Moves")},
+            {"Fade", box("&Fade Background")},
+            {"RangeIndex",
+             [](CustomizeDialog& dialog) { QTest::keyClick(Parts(dialog).range, Qt::Key_Home); }},
+            {"CardSpeed", slider("Card Moving Speed")},
+            {"UndoSpeed", slider("Undo/Redo Speed")},
+            {"UndoallSpeed", slider("Undoall/Redoall Speed")},
+            {"ReplaySpeed", slider("Replay Speed")},
+            {"SoundStart", sound("Initial Shuffle")},
+            {"SoundCardUp", sound("Card Up")},
+            {"SoundCardDown", sound("Card Down")},
+            {"SoundAutoPlay", sound("Autoplay Move")},
+            {"SoundUndo", sound("Undo")},
+            {"SoundRedo", sound("Redo")},
+            {"SoundWin", sound("Game Won")},
+        };
+        for (const auto& [key, change] : controls) {
+            WindowFixture fixture;
+            const cData& data = fixture.engine().data();
+            std::vector<int> before;
+            for (const NumberKey& each : NumberKeys()) before.push_back(data.Get(each));
+            CustomizeDialog dialog(fixture.engine(), &fixture.window);
+            change(dialog);
+            Q_EMIT dialog.findChild<QDialogButtonBox*>()->accepted();
+            QStringList changed;
+            for (std::size_t i = 0; i < before.size(); ++i) {
+                const NumberKey each = NumberKeys()[i];
+                if (data.Get(each) != before[i]) changed << ToQt(each.Key);
+            }
+            QCOMPARE(changed, QStringList{key});
+        }
     }
 
     void ColorControlsFollowTheTree() {
@@ -154,7 +209,10 @@ private Q_SLOTS:
                 box.button(button)->click();
             });
         };
-        answer(QMessageBox::No);
+        WhenOpen<QMessageBox>([&](QMessageBox& box) {  // by default nothing is lost
+            asked << box.text();
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
         Parts(dialog).clearRecent->click();
         QVERIFY(Parts(dialog).clearRecent->isEnabled());
         WhenOpen<QMessageBox>([&](QMessageBox& box) {

@@ -37,6 +37,7 @@ private Q_SLOTS:
             QVERIFY2(page.html.contains("<b>Aim</b>") && page.html.contains("<h2>Hints</h2>"),
                      qPrintable(name + " has no page with hints in assets/help/games/"));
         }
+        QVERIFY(names.last().startsWith("game:"));
         QCOMPARE(PageNameOf(0), "contents");
         QCOMPARE(PageNameOf(TotalGames() + 1), "contents");
         QVERIFY(PageOf("game:Nonsense").html.isEmpty());

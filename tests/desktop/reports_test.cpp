@@ -110,6 +110,10 @@ private Q_SLOTS:
             QCOMPARE(dialog.size(), QSize(600, 444));
             QCOMPARE(log->columnWidth(1), 222);
             QCOMPARE(ColumnTexts(*log, 3), (QStringList{"80", "50", "9"}));
+            QCOMPARE(log->model()->headerData(2, Qt::Vertical, Qt::DisplayRole).toString(), "3");
+            log->selectRow(0);
+            QTest::keySequence(log, QKeySequence::Copy);
+            QVERIFY(QApplication::clipboard()->text().startsWith("2\tPlayer1\tFreecell\t80\t"));
             dialog.reject();
         });
         fixture.window.menu().mStat(StatItem::Log)->trigger();
