@@ -200,15 +200,6 @@ private Q_SLOTS:
             }
         }
     }
-
-    void FollowsThePalette() {
-        QPalette night;
-        night.setColor(QPalette::Base, QColor(20, 30, 40));
-        night.setColor(QPalette::Text, QColor(230, 220, 210));
-        const auto chart = Shown<RowChart>(ManyRows(5, 10));
-        chart->setPalette(night);
-        QCOMPARE(chart->grab().toImage().pixelColor(6, 6), QColor(20, 30, 40));
-    }
 };
 
 QTEST_MAIN(ChartsTest)

@@ -189,6 +189,8 @@ private Q_SLOTS:
                      "Penguin");
             auto* chart = Named<Chart>(dialog, "Won and lost of the game");
             QVERIFY(chart->accessibleDescription().contains("Won : 1"));
+            QCOMPARE(Named<Chart>(dialog, "The first games one by one")->accessibleDescription(),
+                     "1: Score : 9, Moves : 8, Time : 0:16:40");
             Captioned<QLabel>(dialog, "Penguin won in a row by Player1: 1 now, 1 at best");
             Choose(*Named<QComboBox>(dialog, "Game shown in the charts"), "Avenue");
             QCOMPARE(games->CurrentRow(), 0);

@@ -1,7 +1,6 @@
 #include <QDateTime>
 #include <QGroupBox>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
@@ -209,20 +208,6 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 5);
         QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Stripped Freecell\",7,0,0,0,1"});
         QCOMPARE(fixture.engine().data().CurGNo.Shown(), "7");
-    }
-
-    void AResultThatCantBeWrittenIsTold() {
-        WindowFixture fixture;
-        std::filesystem::create_directories(fixture.Folder() + "/Player1.sre");
-        fixture.StartWithoutAutoplay("Freecell");
-        QString told;
-        WhenOpen<QMessageBox>([&](QMessageBox& box) {
-            told = box.text();
-            box.accept();
-        });
-        fixture.engine().commands().CloseGame();
-        QTRY_VERIFY(told.contains("/Player1.sre"));
-        QVERIFY(!fixture.engine().data().GameRunning);
     }
 };
 
