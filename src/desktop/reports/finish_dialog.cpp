@@ -1,5 +1,6 @@
 #include "desktop/reports/finish_dialog.h"
 
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -8,11 +9,13 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <vector>
 
 #include "desktop/appearance/icons.h"
 #include "desktop/appearance/pictures.h"
 #include "desktop/charts/totals_chart.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/window_size.h"
 #include "desktop/platform/words.h"
 #include "desktop/reports/report_charts.h"
 
@@ -22,6 +25,8 @@ namespace {
 constexpr int kListWidth = 247;  // pixels
 constexpr int kListRoom = 18;    // pixels for a list's frame and margins
 constexpr QSize kChartSize(330, 220);
+constexpr int kLeastButton = 72;            // pixels
+constexpr int kButtonGap = 10;              // about
 constexpr double kPlaceSize = 1.25;         // of the dialog's font
 constexpr double kCardScale = 1.5;          // of a card on the table
 constexpr std::size_t kMostCompared = 200;  // earlier wins in the chart
@@ -65,13 +70,13 @@ FinishDialog::FinishDialog(const FinishFigures& figures, const OwnWins& wins, QW
     auto* all = new QVBoxLayout(this);
     all->addWidget(MakeToolbar());
     all->addWidget(MakeResult(figures, wins));
-    newGame_->setFocus();  // now that it stands in a window
+    resize(BoundedByScreen(*this, sizeHint()));  // the toolkit would take two thirds of the screen
+    newGame_->setFocus();                        // now that it stands in a window
 }
 
 QWidget* FinishDialog::MakeToolbar() {
     auto* strip = new QWidget;
-    auto* row = new QHBoxLayout(strip);
-    row->setContentsMargins(0, 0, 0, 0);
+    std::vector<QToolButton*> buttons;
     const auto button = [&](const char* icon, const QString& caption) {
         auto* made = new CommandButton;
         made->setIcon(SmallIcon(QString::fromLatin1(icon)));
@@ -79,8 +84,8 @@ QWidget* FinishDialog::MakeToolbar() {
         made->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         made->setAutoRaise(true);
         made->setFocusPolicy(Qt::StrongFocus);
-        made->setMinimumWidth(84);
-        row->addWidget(made);
+        made->setMinimumWidth(std::max(kLeastButton, made->sizeHint().width()));
+        buttons.push_back(made);
         return made;
     };
     const auto choose = [&](QToolButton* made, FinishChoice choice) {
@@ -98,7 +103,16 @@ QWidget* FinishDialog::MakeToolbar() {
     connect(button("highscore", tr("High Score")), &QToolButton::clicked, this,
             &FinishDialog::HighScoreAsked);
     choose(button("close", tr("Close")), FinishChoice::Close);
-    row->addStretch();
+    int width = 0;
+    for (const QToolButton* made : buttons) width += made->minimumWidth() + kButtonGap;
+    // In one row, or in two where the screen is too narrow for it.
+    const int most = BoundedByScreen(*this, {width, 1}).width() < width ? 3 : 6;
+    auto* grid = new QGridLayout(strip);
+    grid->setContentsMargins(0, 0, 0, 0);
+    for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+        grid->addWidget(buttons[static_cast<std::size_t>(i)], i / most, i % most);
+    }
+    grid->setColumnStretch(most, 1);
     return strip;
 }
 
@@ -129,6 +143,7 @@ QWidget* FinishDialog::MakeResult(const FinishFigures& figures, const OwnWins& w
     large.setBold(true);
     place->setFont(large);
     place->setAlignment(Qt::AlignCenter);
+    place->setWordWrap(true);
     auto* told = new QVBoxLayout;
     told->addStretch();
     told->addWidget(list);
