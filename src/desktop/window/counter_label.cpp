@@ -73,8 +73,8 @@ int CounterLabel::DigitWidth() const {
 
 int CounterLabel::WidthOf(const QString& text) const {
     int width = 0;
-    ForEachPart(text, [&](const QString& part, bool digit) {
-        width += digit ? DigitWidth() : fontMetrics().horizontalAdvance(part);
+    ForEachPart(text, [&, digitWidth = DigitWidth()](const QString& part, bool digit) {
+        width += digit ? digitWidth : fontMetrics().horizontalAdvance(part);
     });
     return width;
 }

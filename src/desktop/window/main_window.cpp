@@ -56,9 +56,9 @@ MainWindow::MainWindow(const System& system) : motion_(system.sounds) {
     resize(kRestoredSize + QSize(0, menuBar()->sizeHint().height()));
     // `move` places the frame, whose title counts; nobody knows its height before it is shown.
     const QSize framed = size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    move(QRect({}, framed)
-             .translated(screen()->availableGeometry().center() - QRect({}, framed).center())
-             .topLeft());
+    move(
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, framed, screen()->availableGeometry())
+            .topLeft());
     StartTimers();
     AddZoomKeys();
     new TypeAhead(this);

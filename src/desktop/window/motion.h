@@ -39,6 +39,8 @@ public:
     void SetCardSpeed(std::function<int()> cardSpeed) { cardSpeed_ = std::move(cardSpeed); }
     /// How often the screen shows a new picture, in hertz.
     void SetFrameRate(double rate);
+    /// How long the display shows a frame.
+    double FrameMilliseconds() const { return 1000 * frame_.count(); }
     /// Off: cards arrive at once. For tests.
     void SetPaced(bool paced) { paced_ = paced; }
 

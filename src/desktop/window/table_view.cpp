@@ -17,8 +17,6 @@ namespace {
 constexpr double kShiftLeft = 20;  // twips that the table stands left of the middle
 const QSize kTablePixels(qRound(kTableWidth / kTwipsPerPixel),
                          qRound(kTableHeight / kTwipsPerPixel));
-constexpr double kSlowestRate = 30;  // frames of a display in a second
-constexpr double kFastestRate = 240;
 constexpr int kTellTime = 12000;  // milliseconds
 constexpr int kWheelStep = 120;   // eighths of a degree, one notch
 
@@ -66,8 +64,8 @@ void TableView::SyncSoon() {
     const bool waits = Carrying() && synced_.isValid();
     if (!waits) return frame_.start(0);
     if (frame_.isActive()) return;
-    const double frame = 1000 / std::clamp(screen()->refreshRate(), kSlowestRate, kFastestRate);
-    frame_.start(std::max(static_cast<int>(frame - double(synced_.elapsed())), 0));
+    const double rest = motion_.FrameMilliseconds() - double(synced_.elapsed());
+    frame_.start(std::max(static_cast<int>(rest), 0));
 }
 
 void TableView::Sync() {

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace varnello {
 namespace {
@@ -30,10 +31,13 @@ bool Allowed(int percent, QSize room, QSize table) {
 
 }  // namespace
 
-Zoom::Zoom(SettingsStore& store) : store_(store), percent_(StoredPercent(store)) {}
+Zoom::Zoom(SettingsStore& store)
+    : store_(store),
+      news_(store.Read(kSection, kKey, "").empty()),
+      percent_(StoredPercent(store)) {}
 
 bool Zoom::TakeNews() {
-    if (!store_.Read(kSection, kKey, "").empty()) return false;
+    if (!std::exchange(news_, false)) return false;
     store_.Write(kSection, kKey, std::to_string(percent_));
     return true;
 }
@@ -47,6 +51,7 @@ bool Zoom::Step(int direction, QSize room, QSize table) {
     }
     if (next == percent_ || (direction > 0 && !Allowed(next, room, table))) return false;
     percent_ = next;
+    news_ = false;
     store_.Write(kSection, kKey, std::to_string(next));
     return true;
 }

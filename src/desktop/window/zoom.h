@@ -28,6 +28,7 @@ public:
 
 private:
     SettingsStore& store_;
+    bool news_;
     int percent_;
 };
 
