@@ -4,7 +4,8 @@
 
 namespace varnello::test {
 
-/// Settings in memory that count how often a key is read and how often a file would be written.
+/// Settings in memory that can be listed, and that count how often a key is read and
+/// how often a file would be written.
 class CountedStore : public MemoryStore {
 public:
     std::string Read(std::string_view section, std::string_view key,
@@ -15,6 +16,7 @@ public:
     void Write(std::string_view section, std::string_view key, std::string_view text) override {
         ++(changing_ ? changed_ : writes);
         MemoryStore::Write(section, key, text);
+        stored[std::string(section) + '/' + std::string(key)] = text;
     }
     bool Change(const std::function<void()>& change) override {
         changing_ = true;
@@ -25,6 +27,7 @@ public:
     }
 
     mutable std::map<std::string, int> reads;
+    std::map<std::string, std::string> stored;  ///< by "section/key"
     int writes = 0;
 
 private:

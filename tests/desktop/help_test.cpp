@@ -53,59 +53,6 @@ private Q_SLOTS:
         }
     }
 
-    void F1OpensTheContentsOrTheGamesRules() {
-        WindowFixture fixture;
-        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
-        HelpWindow* help = Help();
-        QVERIFY(help);
-        QVERIFY(help->windowTitle().startsWith("Contents"));
-        fixture.Start("Baker's Game");
-        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
-        QVERIFY(help->windowTitle().startsWith("Baker's Game"));
-        QVERIFY(help->browser()->toPlainText().contains("only a King"));
-        // A link to another page, and back to where it stood.
-        Q_EMIT help->browser()->anchorClicked(QUrl("game:See-Saw"));
-        QVERIFY(help->windowTitle().startsWith("See-Saw"));
-        Q_EMIT help->browser()->anchorClicked(QUrl("playing"));
-        QVERIFY(help->windowTitle().startsWith("How to play"));
-        help->browser()->backward();
-        help->browser()->backward();
-        QVERIFY(help->windowTitle().startsWith("Baker's Game"));
-        help->browser()->backward();
-        QVERIFY(help->windowTitle().startsWith("Contents"));
-        fixture.window.ShowSelect();
-        fixture.window.select()->rules()->click();
-        QVERIFY(help->windowTitle().startsWith("Baker's Game"));
-    }
-
-    void FindsWhileOneTypes() {
-        WindowFixture fixture;
-        fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
-        HelpWindow* help = Help();
-        QVERIFY(QTest::qWaitForWindowActive(help));
-        const auto at = [&] { return help->browser()->textCursor().selectionStart(); };
-        const auto selected = [&] {
-            return help->browser()->textCursor().selectedText().toLower();
-        };
-        QTest::keyClicks(help->find(), "free");
-        QCOMPARE(selected(), "free");
-        const int first = at();
-        QTest::keyClicks(help->find(), "cell");
-        QCOMPARE(selected(), "freecell");
-        QCOMPARE(at(), first);
-        QTest::keyClick(help, Qt::Key_F3);
-        const int second = at();
-        QVERIFY(second > first);
-        QTest::keyClick(help, Qt::Key_F3, Qt::ShiftModifier);
-        QCOMPARE(at(), first);
-        QTest::keyClick(help, Qt::Key_F3, Qt::ShiftModifier);  // around the page's beginning
-        QVERIFY(at() > second);
-        QCOMPARE(help->Found(), "");
-        QTest::keyClicks(help->find(), "zz");
-        QCOMPARE(help->Found(), "Not on this page");
-        QCOMPARE(selected(), "");
-    }
-
     void TheGridFollowsTheWidth() {
         WindowFixture fixture;
         fixture.window.menu().mHelp(HelpItem::Rules)->trigger();

@@ -1,41 +1,16 @@
 #include <QDateTime>
-#include <QGroupBox>
-#include <QListWidget>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
 
 #include "desktop/platform/system.h"
 #include "desktop/platform/text.h"
-#include "desktop/reports/finish_dialog.h"
 #include "desktop/window/program.h"
 #include "engine/null_desktop.h"
 #include "fixture.h"
 
 // Start, end, menus, dialogs: what the window does around the game.
 using namespace varnello;
-
-namespace {
-
-/// A game of five cards, four of which start the foundations: the fifth one wins it.
-void SelectAlmostWon(cGames& games, const std::string&) {
-    GameRow row = *FindGame("Stripped Freecell");
-    row.Ext.TotalCards = 5;
-    row.Home.Cards = 1;
-    row.Goal = {
-        .Piles = 4, .Order = OrderCode::Anything, .Cards = 4, .GoalType = GoalType::FirstCards};
-    row.Stock.StockType = StockType::Closed;
-    SelectRow(games, row);
-}
-
-QToolButton* ButtonCalled(QWidget& parent, const QString& text) {
-    for (auto* button : parent.findChildren<QToolButton*>()) {
-        if (button->text() == text) return button;
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 class ShellTest : public QObject {
     Q_OBJECT
@@ -113,25 +88,6 @@ private Q_SLOTS:
         tzset();
     }
 
-    void TheSelectorStartsTheChosenGameForTheChosenPlayer() {
-        WindowFixture fixture;
-        fixture.engine().data().AddPlayer("Ann");
-        fixture.window.ShowSelect();
-        SelectDialog* select = fixture.window.select();
-        QCOMPARE(select->tree()->currentItem()->text(0), "Avenue");
-        select->tree()->setCurrentItem(select->tree()->topLevelItem(0));
-        QVERIFY(!select->play()->isEnabled());
-        const int penguin = fixture.engine().data().GetGameID("Penguin");
-        select->tree()->setCurrentItem(select->tree()->topLevelItem(0)->child(penguin - 1));
-        select->players()->setCurrentText("Ann");
-        QTest::mouseClick(select->play(), Qt::LeftButton);
-        QVERIFY(fixture.engine().data().GameRunning);
-        QCOMPARE(fixture.engine().data().CurGName(), "Penguin");
-        QCOMPARE(fixture.engine().data().CurPlayer(), "Ann");
-        QTRY_VERIFY(fixture.window.windowTitle().startsWith("Varnello [Penguin] [Ann] ["));
-        QTRY_VERIFY(!fixture.window.select());
-    }
-
     void MarksAndCountersFollowTheGame() {
         WindowFixture fixture;
         const MainMenu& menu = fixture.window.menu();
@@ -183,31 +139,6 @@ private Q_SLOTS:
         fixture.window.close();
         QCOMPARE(closed.count(), 1);
         QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Freecell\",4711,0,0,0,0"});
-    }
-
-    void AWonGameShowsItsResultAndGoesOn() {
-        WindowFixture fixture;
-        fixture.engine().life().SelectBy(SelectAlmostWon);
-        fixture.StartWithoutAutoplay("Stripped Freecell", 7);
-        QString frame;
-        QStringList lines;
-        WhenOpen<FinishDialog>([&](FinishDialog& dialog) {
-            QVERIFY(!fixture.engine().data().GameRunning);
-            frame = dialog.findChild<QGroupBox*>()->title();
-            const auto* list = dialog.findChild<QListWidget*>();
-            for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text();
-            QVERIFY2(dialog.focusWidget() == ButtonCalled(dialog, "New Game"),
-                     "New Game isn't the default");
-            for (int i = 0; i < 2; ++i) QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);  // Restart Game
-        });
-        fixture.engine().commands().ToggleAutoplay();  // the last card goes up at once
-        QTRY_COMPARE(frame, "Stripped Freecell");
-        QCOMPARE(lines.value(0), " Game : 7");
-        QCOMPARE(lines.value(1), " Player : Player1");
-        QCOMPARE(lines.size(), 5);
-        QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Stripped Freecell\",7,0,0,0,1"});
-        QCOMPARE(fixture.engine().data().CurGNo.Shown(), "7");
     }
 };
 

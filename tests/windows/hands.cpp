@@ -1,0 +1,243 @@
+#include "hands.h"
+
+#include <QClipboard>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTreeView>
+#include <fstream>
+
+#include "sight.h"
+
+namespace varnello::test {
+namespace {
+
+/// A game of five cards, four of which start the foundations: the fifth one wins it.
+void SelectAlmostWon(cGames& games, const std::string&) {
+    GameRow row = *FindGame("Stripped Freecell");
+    row.Ext.TotalCards = 5;
+    row.Home.Cards = 1;
+    row.Goal = {
+        .Piles = 4, .Order = OrderCode::Anything, .Cards = 4, .GoalType = GoalType::FirstCards};
+    row.Stock.StockType = StockType::Closed;
+    SelectRow(games, row);
+}
+
+/// The window that gets what is typed; the main one if there is no other.
+QWidget& Front(WindowFixture& fixture) {
+    if (QWidget* popup = QApplication::activePopupWidget()) return *popup;
+    if (QWidget* modal = QApplication::activeModalWidget()) return *modal;
+    QWidget* active = QApplication::activeWindow();
+    if (active && active != &fixture.window) return *active;
+    for (QWidget* other : QApplication::topLevelWidgets()) {
+        if (other->isVisible() && qobject_cast<QDialog*>(other)) return *other;
+    }
+    return fixture.window;
+}
+
+template <typename Widget>
+Widget* Find(const QWidget& window, const QString& name) {
+    for (auto* widget : window.findChildren<Widget*>()) {
+        if (widget->isVisibleTo(&window) && NameOf(*widget) == name) return widget;
+    }
+    return nullptr;
+}
+
+QAction* ItemOf(const QWidget& menu, const QString& caption) {
+    for (QAction* item : menu.actions()) {
+        if (item->menu()) {
+            if (QAction* found = ItemOf(*item->menu(), caption)) return found;
+        } else if (Plain(item->text()) == caption) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+bool Click(QWidget& window, const QString& name) {
+    if (auto* menu = qobject_cast<QMenu*>(&window)) {
+        QAction* item = ItemOf(*menu, name);
+        if (item) QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(item).center());
+        return item;
+    }
+    for (auto* bar : window.findChildren<QTabBar*>()) {
+        for (int i = 0; i < bar->count(); ++i) {
+            if (Plain(bar->tabText(i)) != name) continue;
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(i).center());
+            return true;
+        }
+    }
+    auto* button = Find<QAbstractButton>(window, name);
+    if (!button) return false;
+    const bool box = button->inherits("QCheckBox");
+    QTest::mouseClick(button, Qt::LeftButton, {}, box ? QPoint(8, button->height() / 2) : QPoint());
+    return true;
+}
+
+bool Choose(QComboBox& combo, const QString& text) {
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_Home);
+    for (int i = 0; i < combo.count() && combo.currentText() != text; ++i) {
+        QTest::keyClick(&combo, Qt::Key_Down);
+    }
+    return combo.currentText() == text;
+}
+
+/// The cell of this text; in a tree its groups are opened on the way.
+QModelIndex CellOf(QAbstractItemView& view, const QString& text, const QModelIndex& parent = {}) {
+    const QAbstractItemModel& model = *view.model();
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        for (int column = 0; column < model.columnCount(parent); ++column) {
+            const QModelIndex at = model.index(row, column, parent);
+            if (at.data().toString() == text) return at;
+        }
+        const QModelIndex below = CellOf(view, text, model.index(row, 0, parent));
+        if (below.isValid()) return below;
+    }
+    return {};
+}
+
+bool ActOn(QAbstractItemView& view, const QString& verb, const QString& text) {
+    if (verb == "sort") {
+        const QHeaderView* header = HeaderOf(view);
+        for (int column = 0; column < view.model()->columnCount(); ++column) {
+            if (view.model()->headerData(column, Qt::Horizontal).toString() != text) continue;
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              {header->sectionViewportPosition(column) + 9, 9});
+            return true;
+        }
+        return false;
+    }
+    const QModelIndex cell = CellOf(view, text);
+    if (!cell.isValid()) return false;
+    if (auto* tree = qobject_cast<QTreeView*>(&view)) {
+        for (QModelIndex up = cell.parent(); up.isValid(); up = up.parent()) tree->expand(up);
+    }
+    view.scrollTo(cell);
+    const QPoint at = view.visualRect(cell).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at);
+    if (verb == "tick") QTest::keyClick(&view, Qt::Key_Space);
+    if (verb == "open") QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at);
+    if (verb == "menuof") {
+        QContextMenuEvent ask(QContextMenuEvent::Keyboard, at, view.viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(&view, &ask);
+    }
+    return true;
+}
+
+bool Follow(QTextBrowser& page, const QString& link) {
+    for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            if (at.fragment().charFormat().anchorHref() != link) continue;
+            QTextCursor cursor(page.document());
+            cursor.setPosition(at.fragment().position() + 1);
+            page.setTextCursor(cursor);
+            QTest::mouseClick(page.viewport(), Qt::LeftButton, {},
+                              page.cursorRect(cursor).center());
+            return true;
+        }
+    }
+    return false;
+}
+
+void Drop(WindowFixture& fixture, int pile, int slot) {
+    const KesEmpty& target = fixture.engine().table().PicRes[static_cast<std::size_t>(slot - 1)];
+    fixture.Drag(fixture.Top(Cell::Home, pile - 1),
+                 fixture.At(target.Left + 532, target.Top + 720));
+}
+
+/// What happens apart from the windows; false for another verb.
+bool Arrange(const QString& verb, const QString& what, const QString& value,
+             WindowFixture& fixture) {
+    Engine& engine = fixture.engine();
+    const auto number = GameNumber::Number(what.section(' ', 0, 0).toDouble());
+    if (verb == "start") {
+        engine.life().StartGame(what.section(' ', 1).toStdString(), number);
+    } else if (verb == "end") {
+        engine.life().EndGame(Outcome::NotWon);
+    } else if (verb == "almost") {
+        engine.life().SelectBy(SelectAlmostWon);
+        engine.life().StartGame("Stripped Freecell", number);
+    } else if (verb == "player") {
+        engine.data().AddPlayer(what.toStdString());
+    } else if (verb == "set") {
+        engine.data().SetText(what.toStdString(), value.toStdString());
+    } else if (verb == "write") {
+        std::ofstream(fixture.Folder() + '/' + what.toStdString(), std::ios::app)
+            << value.toStdString() << "\r\n";
+    } else if (verb == "clock") {
+        fixture.clock.now.minute += what.toInt();
+    } else if (verb == "copied") {
+        QGuiApplication::clipboard()->setText(
+            QString(what).replace("\\t", "\t").replace("\\n", "\n"));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+QString Do(const QString& act, WindowFixture& fixture) {
+    const QString verb = act.section(' ', 0, 0);
+    const QString rest = act.section(' ', 1);
+    const QString what = rest.section(" = ", 0, 0);
+    const QString value = rest.section(" = ", 1);
+    const QString nothing = "nothing is called so";
+    if (Arrange(verb, what, value, fixture)) return {};
+    QWidget& front = Front(fixture);
+    QWidget* focus = front.focusWidget() ? front.focusWidget() : &front;
+    if (verb == "click") return Click(front, what) ? QString() : nothing;
+    if (verb == "choose") {
+        auto* combo = Find<QComboBox>(front, what);
+        return combo && Choose(*combo, value) ? QString() : nothing;
+    }
+    if (verb == "menu") {
+        QAction* item = ItemOf(*fixture.window.menuBar(), what);
+        if (item) item->trigger();
+        return item ? QString() : nothing;
+    }
+    if (verb == "go") {
+        auto* widget = Find<QWidget>(front, what);
+        if (widget) widget->setFocus();
+        return widget ? QString() : nothing;
+    }
+    if (verb == "follow") {
+        auto* page = front.findChild<QTextBrowser*>();
+        return page && Follow(*page, what) ? QString() : nothing;
+    }
+    if (verb == "key") {
+        const QKeyCombination key = QKeySequence(what)[0];
+        QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+    } else if (verb == "type") {
+        QTest::keyClicks(focus, what);
+    } else if (verb == "close") {
+        front.close();
+    } else if (verb == "file") {
+        auto* files = qobject_cast<QFileDialog*>(&front);
+        if (!files) return "no file is asked for";
+        files->findChild<QLineEdit*>()->setText(fixture.folder.path() + '/' + what);
+        QMetaObject::invokeMethod(files, "accept");
+    } else if (verb == "colour") {
+        auto* colours = qobject_cast<QColorDialog*>(&front);
+        if (!colours) return "no colour is asked for";
+        colours->setCurrentColor(QColor(what));
+        colours->accept();
+    } else if (verb == "drop") {
+        Drop(fixture, what.section(' ', 0, 0).toInt(), what.section(' ', 1).toInt());
+    } else if (auto* list = Find<QAbstractItemView>(front, what)) {
+        return ActOn(*list, verb, value) ? QString() : nothing;
+    } else {
+        return nothing;
+    }
+    return {};
+}
+
+}  // namespace varnello::test
