@@ -154,7 +154,12 @@ def failing(half, snapshot, everything):
             "cmake", "-D", f"PROGRAM={script}", "-D", f"SCRIPT={path}", "-D", f"FOLDER={data}",
             "-D", f"EXPECTED={path.with_suffix('.expected')}", "-P",
             ROOT / "tests/scripts/compare.cmake"]))
-    if half == "engine":
+    if half == "desktop":
+        tests.append(("accessible", [
+            "env", "QT_QPA_PLATFORM=xcb", ROOT / "tools/on-virtual-display.sh",
+            "dbus-run-session", "--",
+            ROOT / "tests/accessible/read_table.py", snapshot / "bin/varnello"]))
+    else:
         tests.append(("wins", [
             "cmake", "-D", f"PROGRAM={script}", "-D", f"FOLDER={data}", "-D",
             f"SCRIPTS={ROOT}/tests/wins", "-D",

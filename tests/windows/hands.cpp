@@ -174,6 +174,8 @@ bool Arrange(const QString& verb, const QString& what, const QString& value,
             << value.toStdString() << "\r\n";
     } else if (verb == "clock") {
         fixture.clock.now.minute += what.toInt();
+    } else if (verb == "listen") {
+        fixture.window.setProperty("listen", true);
     } else if (verb == "copied") {
         QGuiApplication::clipboard()->setText(
             QString(what).replace("\\t", "\t").replace("\\n", "\n"));
@@ -212,6 +214,14 @@ QString Do(const QString& act, WindowFixture& fixture) {
     if (verb == "follow") {
         auto* page = front.findChild<QTextBrowser*>();
         return page && Follow(*page, what) ? QString() : nothing;
+    }
+    if (verb == "stock") {
+        const PicID top = fixture.Top(Cell::Stock, 0);
+        const KesEmpty& slot = fixture.engine().table().PicStock[0];
+        const QPoint at =
+            top == kNoCard ? fixture.At(slot.Left + 500, slot.Top + 700) : fixture.CentreOf(top);
+        QTest::mouseClick(&fixture.window.table(), Qt::LeftButton, {}, at);
+        return {};
     }
     if (verb == "key") {
         const QKeyCombination key = QKeySequence(what)[0];

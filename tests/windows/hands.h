@@ -24,8 +24,10 @@ namespace varnello::test {
 ///     close                       the close box of the window in front
 ///     file NAME, colour NAME      in the toolkit's own dialogs
 ///     drop PILE SLOT              the last card of a pile of the tableau onto a reserve slot
+///     stock                       a click on the stock
 ///     start NUMBER GAME, end, almost NUMBER, player NAME, set KEY = VALUE, write FILE = LINE,
-///     clock MINUTES, copied TEXT  what happens apart from the windows
+///     clock MINUTES, copied TEXT, listen
+///                                 what happens apart from the windows; a screen reader listens
 QString Do(const QString& act, WindowFixture& fixture);
 
 }  // namespace varnello::test

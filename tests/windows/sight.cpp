@@ -1,5 +1,6 @@
 #include "sight.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
@@ -196,6 +197,27 @@ void LookAtPicture(const QWidget& part, const QString& name, Sight& sight) {
                             ->grabWindow(window->winId(), at.x(), at.y(), at.width(), at.height())
                             .toImage();
     sight.pictures[name] = qHashBits(seen.constBits(), static_cast<size_t>(seen.sizeInBytes()));
+}
+
+void Listen(QWidget& table, Sight& sight) {
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&table);
+    for (int i = 0; i < tree->childCount(); ++i) {
+        const QAccessibleInterface* pile = tree->child(i);
+        QStringList told{pile->text(QAccessible::Name)};
+        for (int n = 0; n < pile->childCount(); ++n) {
+            const QAccessibleInterface* card = pile->child(n);
+            told << card->text(QAccessible::Name);
+            // The last one is seen where it is said to be.
+            const QPoint at = card->rect().center();
+            if (n + 1 < pile->childCount()) continue;
+            told.last() += " (" + card->text(QAccessible::Description) + ')';
+            if (tree->childAt(at.x(), at.y()) != pile || pile->childAt(at.x(), at.y()) != card ||
+                card->parent() != pile || !pile->rect().contains(at)) {
+                told.last() += ", but elsewhere";
+            }
+        }
+        sight.lines << QString("pile %1: ").arg(i + 1) + told.join(", ");
+    }
 }
 
 void Look(QWidget& window, Sight& sight) {

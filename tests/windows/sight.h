@@ -32,6 +32,9 @@ QString NameOf(const QWidget& widget);
 /// Adds what is seen of a window to `sight`.
 void Look(QWidget& window, Sight& sight);
 
+/// Adds what a screen reader is told of the table: its piles with their cards.
+void Listen(QWidget& table, Sight& sight);
+
 /// Adds the picture that the screen shows of this part of a window.
 void LookAtPicture(const QWidget& part, const QString& name, Sight& sight);
 

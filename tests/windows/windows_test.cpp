@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QDir>
 
+#include "desktop/accessible/windows.h"
 #include "desktop/platform/text.h"
 #include "hands.h"
 #include "sight.h"
@@ -174,6 +175,7 @@ private:
             << "clipboard: " +
                    QGuiApplication::clipboard()->text().replace('\t', "\\t").replace('\n', "\\n");
         for (QString& line : sight.lines) line.replace(fixture_.folder.path(), "HOME");
+        if (fixture_.window.property("listen").toBool()) Listen(fixture_.window.table(), sight);
         LookAtPicture(fixture_.window.table(), "table", sight);
         return sight;
     }
@@ -195,6 +197,8 @@ class WindowsTest : public QObject {
     QMap<QString, ActTable> tables_;
 
 private Q_SLOTS:
+    void initTestCase() { DescribeWindows(); }
+
     void ShowWhatWasDone_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<qsizetype>("first");
