@@ -88,33 +88,28 @@ private Q_SLOTS:
         tzset();
     }
 
-    void MarksAndCountersFollowTheGame() {
-        WindowFixture fixture;
-        const MainMenu& menu = fixture.window.menu();
-        fixture.StartWithoutAutoplay("Freecell");
-        QTRY_VERIFY(!fixture.window.toolbar().Button(5)->isChecked());
-        fixture.engine().data().Set(keys::Autoplay, 2);  // on, but not what the button shows
-        QTRY_VERIFY(menu.mGame(GameItem::Autoplay)->isChecked());
-        QVERIFY(!fixture.window.toolbar().Button(5)->isChecked());
-        QCOMPARE(menu.mRecent(1)->text(), "&1 Freecell");
-        QTRY_COMPARE(menu.Counters().text(), "Score :0  Time :0:00:00  Moves :0");
-        menu.mFile(FileItem::Close)->trigger();
-        QTRY_COMPARE(menu.Counters().text(), "");
-    }
-
-    void AReplayRunsByItselfAndStops() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
-        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
-        const MainMenu& menu = fixture.window.menu();
-        QTRY_VERIFY(menu.mReplay(ReplayItem::All)->isEnabled());
-        menu.mReplay(ReplayItem::All)->trigger();
-        QCOMPARE(fixture.engine().trans().GetTransID(), 0);
-        QTRY_VERIFY(!menu.mGame(GameItem::Redo)->isEnabled());
-        QTRY_COMPARE(fixture.engine().trans().GetTransID(), 1);
-        QTRY_VERIFY(menu.mReplay(ReplayItem::Stop)->isEnabled());
-        QTRY_VERIFY(!menu.mReplay(ReplayItem::Stop)->isEnabled() &&
-                    menu.mGame(GameItem::Undo)->isEnabled());
+    void AReplayStopsByItsItemAndItsButton() {
+        for (const bool byButton : {false, true}) {
+            WindowFixture fixture;
+            fixture.StartWithoutAutoplay("Freecell");
+            for (const int x : {2980, 4080}) {
+                fixture.Drag(fixture.Top(Cell::Home, x > 3000), fixture.At(x + 532, 200 + 720));
+            }
+            const Replay& replay = fixture.engine().replay();
+            QAction* stop = fixture.window.menu().mReplay(ReplayItem::Stop);
+            QAction* back = fixture.window.menu().mReplay(ReplayItem::Back);
+            QTRY_VERIFY2(back->isEnabled(), "Back stays grey after two moves");
+            back->trigger();
+            QTRY_VERIFY2(stop->isEnabled(), "Stop stays grey during a replay");
+            QVERIFY2(replay.BackwardOn(), "Back replays nothing");
+            if (byButton) {
+                QTest::mouseClick(fixture.window.toolbar().Button(11), Qt::LeftButton);
+            } else {
+                stop->trigger();
+            }
+            QVERIFY2(!replay.BackwardOn(), "Stop doesn't stop it");
+            QTRY_VERIFY2(!stop->isEnabled(), "Stop stays when nothing is replayed");
+        }
     }
 
     void TheTableStaysInTheMiddle() {

@@ -43,8 +43,12 @@ TEST_F(Counters, ShowTheScoreOfTheTickBefore) {
     EXPECT_EQ(engine.data().CurTime, 60);
     EXPECT_EQ(engine.data().CurMoves, 1);
     EXPECT_EQ(Shown(), "Score :-10|Time :0:01:00|Moves :1");  // 10 - 20.5, to even
-    for (const NumberKey& key : {keys::ShowTime, keys::ShowScore, keys::ShowMoves}) {
+    const std::pair<NumberKey, const char*> switches[] = {{keys::ShowTime, "Score :-10||Moves :1"},
+                                                          {keys::ShowScore, "||Moves :1"},
+                                                          {keys::ShowMoves, "||"}};
+    for (const auto& [key, shown] : switches) {
         engine.data().Set(key, 2);  // anything but 1 hides
+        EXPECT_EQ(Shown(), shown) << "with " << key.Key << " off";
     }
     clock.Advance(7);
     EXPECT_EQ(Shown(), "||");

@@ -32,6 +32,33 @@ TEST_F(Menus, CommandsOfDisabledItemsDoNothing) {
     EXPECT_EQ(engine.data().Get(keys::Autoplay), 0) << "a game without autoplay";
 }
 
+TEST_F(Menus, CommandsWithoutAGameDoNothing) {
+    for (const bool played : {false, true}) {
+        if (played) {
+            StartWithMoves();
+            engine.commands().ReplayForward();
+            engine.commands().CloseGame();
+        }
+        const std::string board = Board();
+        for (const auto command :
+             {&Commands::Undo, &Commands::Redo, &Commands::UndoAll, &Commands::RedoAll,
+              &Commands::ReplayAll, &Commands::ReplayBack, &Commands::ReplayForward,
+              &Commands::StopReplay, &Commands::RestartGame, &Commands::CloseGame,
+              &Commands::AddFavorite, &Commands::ToggleAutoplay}) {
+            (engine.commands().*command)();
+            engine.replay().ForwardTick();
+            engine.replay().BackwardTick();
+            EXPECT_EQ(Heard(), "");
+            EXPECT_EQ(Board(), board);
+            EXPECT_EQ(engine.life().phase(), Phase::Idle);
+            EXPECT_FALSE(engine.replay().ForwardOn() || engine.replay().BackwardOn());
+            EXPECT_FALSE(engine.commands().UpdateMenus().Stop);
+        }
+        EXPECT_EQ(engine.score().SesTop(), played ? 1 : 0);
+        EXPECT_TRUE(engine.favorites().NumbersOf("Freecell").empty());
+    }
+}
+
 TEST_F(Menus, ReplayEndsWithAMoveByHandOrWithItsGame) {
     StartWithMoves();
     engine.commands().ReplayForward();
@@ -44,10 +71,6 @@ TEST_F(Menus, ReplayEndsWithAMoveByHandOrWithItsGame) {
     Start("Freecell", 2);
     EXPECT_FALSE(engine.replay().BackwardOn());
     EXPECT_FALSE(engine.commands().UpdateMenus().Stop);
-    engine.commands().CloseGame();
-    engine.replay().ForwardTick();
-    engine.replay().BackwardTick();
-    EXPECT_FALSE(engine.commands().UpdateMenus().Stop) << "a tick without a game does nothing";
 }
 
 TEST_F(Menus, RecentGamesAreNumbered) {

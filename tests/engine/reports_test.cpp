@@ -191,13 +191,14 @@ TEST_F(Reports, ExportKeepsItsColumns) {
     engine.data().AddPlayer("A name of 25 letters, yes");
     clock.Set({.month = 11, .day = 8, .hour = 13});
     Write({Game(100, 300, 700), Game(-20, 50, 25, 0, "odd date", "Baker's Spider")}, "Zoë");
+    engine.data().CurPlayer("Zoë");
     engine.results().ExportStat({folder.Path() / "report", "report"});
     EXPECT_EQ(Heard(), "message: Statistics Successfully Exported to report\n");
     EXPECT_EQ(engine.score().ScoreTop(), 0);
     const std::string report = ReadFile(folder.Path() / "report");
     for (const std::string line :
          {"Varnello Score Board\r\n \r\n*************************\r\n \r\n"
-          "Created By    Player1\r\nCreated Date  11/8/2026 1:00:00 PM\r\n \r\n",
+          "Created By    Zoë\r\nCreated Date  11/8/2026 1:00:00 PM\r\n \r\n",
           "Played        Won           Lost          Time          Moves         Score\r\n"
           " 2             1             1            0:12:05        350           80 \r\n \r\n "
           "\r\n",

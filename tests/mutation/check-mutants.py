@@ -19,7 +19,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 LIMIT = 180  # seconds of a test: a mutant may wait for ever
 # The slowest ones last.
-WINDOW_TESTS = ("windows commands shell dialogs play help charts appearance words "
+WINDOW_TESTS = ("windows shell dialogs play help charts appearance words "
                 "sounds scripts copies moments").split()
 
 
@@ -167,6 +167,8 @@ def failing(half, snapshot, everything):
             ROOT / "tests/wins/play.cmake"]))
     home = {"QT_QPA_PLATFORM": "offscreen", "TMPDIR": str(snapshot),
             "XDG_CONFIG_HOME": str(snapshot / "config")}
+    if not everything:
+        home["VARNELLO_FAIL_FAST"] = "1"
     for name, command in tests:
         failed = failures_of([str(word) for word in command], home)
         found += [name] if failed and name else failed

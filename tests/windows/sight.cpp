@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -197,6 +198,28 @@ void LookAtPicture(const QWidget& part, const QString& name, Sight& sight) {
                             ->grabWindow(window->winId(), at.x(), at.y(), at.width(), at.height())
                             .toImage();
     sight.pictures[name] = qHashBits(seen.constBits(), static_cast<size_t>(seen.sizeInBytes()));
+}
+
+void LookAtCommands(const QMainWindow& window, Sight& sight) {
+    QStringList grey, ticked;
+    const auto look = [&](const auto& command, const QString& name) {
+        if (!command.isEnabled()) grey << name;
+        if (command.isCheckable() && command.isChecked()) ticked << name;
+    };
+    QList<QAction*> items = window.menuBar()->actions();
+    while (!items.isEmpty()) {
+        const QAction* item = items.takeFirst();
+        if (item->menu()) {
+            items = item->menu()->actions() + items;
+        } else if (item->isVisible() && !item->isSeparator()) {
+            look(*item, Plain(item->text()));
+        }
+    }
+    for (const auto* button : window.findChildren<QToolButton*>()) {
+        const bool tool = button->isVisible() && !button->accessibleName().isEmpty();
+        if (tool) look(*button, '[' + NameOf(*button) + ']');
+    }
+    sight.lines << "grey: " + grey.join(", ") << "ticked: " + ticked.join(", ");
 }
 
 void Listen(QWidget& table, Sight& sight) {

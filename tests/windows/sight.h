@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHeaderView>
+#include <QMainWindow>
 #include <QMap>
 #include <QStringList>
 #include <QWidget>
@@ -31,6 +32,9 @@ QString NameOf(const QWidget& widget);
 
 /// Adds what is seen of a window to `sight`.
 void Look(QWidget& window, Sight& sight);
+
+/// Adds which commands can't be given now, which are ticked, and the same of their buttons.
+void LookAtCommands(const QMainWindow& window, Sight& sight);
 
 /// Adds what a screen reader is told of the table: its piles with their cards.
 void Listen(QWidget& table, Sight& sight);
