@@ -144,6 +144,9 @@ TEST_F(Flow, DealBecomesAGameWhenItHasBeenShown) {
     EXPECT_EQ(Board(), undisturbed.Board());
     EXPECT_TRUE(LooksSame(surface.scene, engine.table()));
     EXPECT_EQ(engine.score().SesTop(), 1) << "a deal that wasn't shown leaves no record";
+    engine.commands().CloseGame();
+    engine.life().Shown();
+    EXPECT_EQ(engine.life().phase(), Phase::Idle) << "nothing was dealt";
 }
 
 TEST_F(Flow, RewindingThatWinsStartsNoReplay) {

@@ -103,7 +103,7 @@ TEST_F(Players, HaveNamesFitForFiles) {
 }
 
 TEST_F(Players, TakeTheirResultsAlong) {
-    data.SetPlayer(1, "Zo\u00eb", true);
+    data.SetPlayer(2, "Zo\u00eb", true);
     Start("Freecell");
     engine.commands().CloseGame();
     const std::string results = ReadFile(File("Zo\u00eb.sre"));
@@ -119,7 +119,7 @@ TEST_F(Players, TakeTheirResultsAlong) {
     Heard();
     EXPECT_FALSE(engine.players().EnterPlayer("Ann", std::string(300, 'x')));
     EXPECT_EQ(Heard(), "message: Please Enter a Valid Name\n");
-    EXPECT_EQ(data.CurPlayer() + data.GetPlayer(1), "AnnAnn");
+    EXPECT_EQ(data.CurPlayer() + data.GetPlayer(2), "AnnAnn");
     EXPECT_TRUE(engine.players().EnterPlayer("", "Bob")) << "a new player may find old results";
 }
 
@@ -209,6 +209,9 @@ TEST_F(Players, LeaveNothingBehindButTheirOrder) {
     EXPECT_TRUE(engine.players().DeletePlayer("B"));
     EXPECT_FALSE(std::filesystem::exists(File("B.sre")));
     EXPECT_EQ(FirstPlayers(), "Player1|C|D||");
+    data.SetPlayer(4, "C", false);
+    data.PackPlayers();
+    EXPECT_EQ(FirstPlayers(), "Player1|C|D||") << "the same name twice";
     engine.results().ClearStat();
     EXPECT_FALSE(std::filesystem::exists(File("D.sre")));
 }

@@ -156,7 +156,8 @@ TEST_F(Reports, RankingsAgreeWithASlowSecondComputation) {
         Write(games);
         for (const bool other : {true, false}) {
             const Field key = other ? &ScoreRecord::Time : &ScoreRecord::Moves;
-            engine.score().FinSort(other ? FinKey::Time : FinKey::Moves);
+            FinishedRows(engine.score(), other ? FinishedBy::Time : FinishedBy::Moves,
+                         engine.dates());
             EXPECT_EQ(Ranked(key), SlowFinSort(games, key));
             engine.score().Sort("", "", other ? 0 : 1);
             EXPECT_EQ(Ranked(&ScoreRecord::Moves), SlowSort(games, other));

@@ -10,6 +10,7 @@ import concurrent.futures
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -82,7 +83,7 @@ class Copy:
                       "-D_GLIBCXX_ASSERTIONS", text)
         text = text.replace("-fsanitize=address,undefined", "")
         if self.half == "desktop":  # a fault is linked once, not into each test
-            text = re.sub(r"(add_library\(\S+) STATIC\b", r"\1 SHARED", text)
+            text = re.sub(r"(add_library\(varnello-(?:desktop|engine)) STATIC\b", r"\1 SHARED", text)
         return text.encode()
 
     def put(self, name, content):
@@ -123,11 +124,14 @@ class Copy:
 
 def failures_of(command, environment=None):
     """The names of the tests of a program that fail. A crash leaves the one that was running."""
+    run = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                           errors="replace", start_new_session=True,
+                           env={**os.environ, **(environment or {})})
     try:
-        done = subprocess.run(command, capture_output=True, text=True, errors="replace",
-                              timeout=LIMIT, check=False, env={**os.environ, **(environment or {})})
-        code, out = done.returncode, done.stdout + done.stderr
+        out, code = run.communicate(timeout=LIMIT)[0], run.returncode
     except subprocess.TimeoutExpired:
+        os.killpg(run.pid, signal.SIGKILL)  # with all that it has started
+        run.wait()
         return [f"{Path(command[0]).name} (waits)"]
     if code == 0:
         return []
