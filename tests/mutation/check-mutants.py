@@ -70,6 +70,7 @@ class Copy:
                 self.put(name, self.prepared(name, (ROOT / name).read_bytes()))
         wanted = {"VARNELLO_DESKTOP": "ON" if half == "desktop" else "OFF", "VARNELLO_BENCH": "OFF",
                   "CMAKE_POSITION_INDEPENDENT_CODE": "ON", "CMAKE_BUILD_RPATH_USE_ORIGIN": "ON",
+                  "CMAKE_LINK_DEPENDS_NO_SHARED": "ON",
                   "CMAKE_CXX_FLAGS": "-w"}  # a fault may leave something unused
         self.run(["cmake", "-S", self.source, "-B", self.build, "-G", "Ninja",
                   *(f"-D{key}={value}" for key, value in wanted.items())])
@@ -236,7 +237,9 @@ def check(options, mutants, copy):
                 survivors += 1
                 print(f"SURVIVED  {mutant.place}\n{mutant.shown()}", end="", flush=True)
 
-    with concurrent.futures.ThreadPoolExecutor(2) as pool:
+    # The window's tests wait for the window more than for the processor.
+    testers = 2 if options.half == "engine" else 5
+    with concurrent.futures.ThreadPoolExecutor(testers) as pool:
         for mutant in mutants:
             name = f"src/{mutant.file}"
             copy.put(name, mutant.content.encode())
@@ -247,7 +250,7 @@ def check(options, mutants, copy):
                 print(f"NO BUILD  {mutant.place}", flush=True)
                 continue
             waiting[pool.submit(failing, options.half, snapshot, options.all)] = mutant
-            if len(waiting) > 2:
+            if len(waiting) > testers:
                 collect(concurrent.futures.FIRST_COMPLETED)
         while waiting:
             collect(concurrent.futures.FIRST_COMPLETED)
