@@ -4,15 +4,10 @@
 
 namespace varnello::test {
 
-/// Settings in memory that can be listed, and that count how often a key is read and
-/// how often a file would be written.
+/// Settings in memory that can be listed, and that count how often a file would be
+/// written.
 class CountedStore : public MemoryStore {
 public:
-    std::string Read(std::string_view section, std::string_view key,
-                     std::string_view fallback) const override {
-        ++reads[std::string(key)];
-        return MemoryStore::Read(section, key, fallback);
-    }
     void Write(std::string_view section, std::string_view key, std::string_view text) override {
         ++(changing_ ? changed_ : writes);
         MemoryStore::Write(section, key, text);
@@ -26,7 +21,6 @@ public:
         return true;
     }
 
-    mutable std::map<std::string, int> reads;
     std::map<std::string, std::string> stored;  ///< by "section/key"
     int writes = 0;
 

@@ -108,7 +108,7 @@ private Q_SLOTS:
             const int extent = step.x() ? size.width() : size.height();
             double most = 0;
             for (int at = 0; at + 1 < extent; ++at) most = std::max(most, difference(step, at));
-            QVERIFY(difference(step, extent - 1) <= most * 1.05);
+            QVERIFY2(difference(step, extent - 1) <= most * 1.05, "a seam shows");
         }
         const QRect first(QPoint(), size);
         QCOMPARE(surface.copy(first), surface.copy(first.translated(size.width(), size.height())));
@@ -120,7 +120,7 @@ private Q_SLOTS:
             QVERIFY(TileFill(dense, ratio, id));
             for (int y = 0; y < dense.height(); ++y) {
                 for (int x = 0; x < dense.width(); ++x) {
-                    QVERIFY(dense.pixel(x, y) != QColor(Qt::magenta).rgb());
+                    QVERIFY2(dense.pixel(x, y) != QColor(Qt::magenta).rgb(), "a gap between tiles");
                 }
             }
         }
@@ -168,7 +168,8 @@ private Q_SLOTS:
         for (const LookGroup& group : DeckGroups()) {
             for (const int id : group.ids) QVERIFY(isNew(pictures.DeckPic(id)));
         }
-        QVERIFY(!isNew(pictures.DeckPic(9999)));  // the default back stands in
+        QVERIFY2(!isNew(pictures.DeckPic(9999)),
+                 "an unknown deck isn't the default");  // the default back stands in
     }
 
     void ASelectedCardIsTheNegativeOfItsFace() {
@@ -206,7 +207,8 @@ private Q_SLOTS:
         Previews previews;
         const QPixmap preview = previews.Of("Zodiac", 1.5);
         QCOMPARE(preview.size(), QSize(477, 302));
-        QVERIFY(preview.toImage() != previews.Of("Penguin", 1.5).toImage());
+        QVERIFY2(preview.toImage() != previews.Of("Penguin", 1.5).toImage(),
+                 "two games, one preview");
     }
 
     void PreviewsShowAllOfATable() {

@@ -4,6 +4,7 @@
 #include <QToolTip>
 #include <memory>
 
+#include "desktop/charts/colours.h"
 #include "desktop/charts/row_chart.h"
 #include "desktop/charts/share_chart.h"
 #include "desktop/charts/totals_chart.h"
@@ -100,6 +101,28 @@ private Q_SLOTS:
         }
     }
 
+    void PaintsEachFigureAsLargeAsItIs() {
+        const auto pixels = [](const Chart& chart, Series series) {
+            const QImage image = const_cast<Chart&>(chart).grab().toImage();
+            const QRgb colour = SeriesColour(series, chart.palette()).rgb();
+            double count = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == colour;
+            }
+            return count;
+        };
+        const auto ring = Shown<ShareChart>({.series = kShare, .rows = {{1, 3}}});
+        const double times = pixels(*ring, Series::Lost) / pixels(*ring, Series::Won);
+        QVERIFY2(std::abs(times - 3) < 0.3, "three lost games aren't three times the one won");
+        const auto bars = Shown<TotalsChart>({.series = kFigures, .rows = {{50, 100, 3600}}});
+        const auto halves =
+            Shown<TotalsChart>({.series = kFigures, .rows = {{25, 50, 1800}, {50, 100, 3600}}});
+        for (const Series series : kFigures) {
+            const double part = pixels(*halves, series) / pixels(*bars, series);
+            QVERIFY2(std::abs(part - 0.5) < 0.05, "half of a figure isn't half as long");
+        }
+    }
+
     void TellsTheFiguresUnderTheMouse_data() {
         QTest::addColumn<int>("kind");
         QTest::addColumn<ChartTable>("table");
@@ -172,6 +195,7 @@ private Q_SLOTS:
         row("odd values", 2,
             {.series = kFigures, .rows = {{1e308, INFINITY}, {-1e308}, {}, {0.25, 1, 2, 3}}}, {});
         row("thousands", 2, ManyRows(2000, 1), {"Score"});
+        row("one scale for games", 2, {.series = kPlayedWon, .rows = {{4, 2}, {4, 2}}}, {"4", "4"});
     }
 
     void TextsAreWholeAndApart() {

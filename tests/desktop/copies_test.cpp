@@ -94,7 +94,7 @@ private Q_SLOTS:
         copy.engine.life().LeaveGame();
         const std::string folder = copy.engine.data().AppDir().string();
         QCOMPARE(ReadLines(folder + "/Anna.sre").size(), std::size_t{1});
-        QVERIFY(ReadLines(folder + "/Player1.sre").empty());
+        QVERIFY2(ReadLines(folder + "/Player1.sre").empty(), "the result went to the old name");
     }
 
     void LeftoversOfAnInterruptedWriteGo() {

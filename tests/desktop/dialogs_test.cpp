@@ -3,12 +3,17 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <atomic>
 #include <fstream>
+#include <thread>
 
 #include "desktop/choosers/favorites_dialogs.h"
 #include "desktop/choosers/number_dialog.h"
 #include "desktop/customize/customize_dialog.h"
 #include "desktop/platform/text.h"
+#include "desktop/platform/watched_work.h"
 #include "desktop/reports/log_dialog.h"
 #include "fixture.h"
 
@@ -78,7 +83,7 @@ private Q_SLOTS:
                 if (!label->text().contains(ToQt(odd))) continue;
                 ++found;
                 QCOMPARE(label->textFormat(), Qt::PlainText);
-                QVERIFY(!label->buddy());
+                QVERIFY2(!label->buddy(), "the name is taken for a caption");
             }
             dialog.close();
         });
@@ -113,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(range->currentIndex(), 14);
         QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
         QCoreApplication::sendEvent(Named<QTreeWidget>(dialog, "Backgrounds"), &tab);
-        QVERIFY(fade->isEnabled());
+        QVERIFY2(fade->isEnabled(), "Fade is grey");
         sliders[1]->setValue(1);
         fade->click();
         fixture.settings.writes = 0;
@@ -145,8 +150,30 @@ private Q_SLOTS:
         });
         fixture.settings.Write("Windows", "LogStatistics", "size=99999 1;log=1 x;;=;log");
         open([](LogDialog& dialog, ReportView&) {
-            QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
+            QVERIFY2(dialog.width() <= dialog.screen()->availableSize().width(),
+                     "wider than the screen");
         });
+    }
+
+    void LongWorkIsWatchedAndMayBeStopped() {
+        for (const bool stop : {false, true}) {
+            const auto end = std::make_shared<std::atomic<bool>>(false);
+            QString told;
+            WhenOpen<QDialog>([&](QDialog& box) {
+                told = box.findChild<QLabel*>()->text();
+                QTRY_COMPARE(box.findChild<QProgressBar*>()->value(), 250);
+                if (stop) return box.findChild<QPushButton*>()->click();
+                *end = true;
+            });
+            const bool done = DoWatched(nullptr, "Counting...", 8, [end](Progress& progress) {
+                progress.Done = 2;
+                while (!*end && !progress.Stopped) std::this_thread::yield();
+                *end = true;
+            });
+            QCOMPARE(told, "Counting...");
+            QVERIFY2(done != stop, stop ? "work goes on in spite of Cancel" : "work isn't done");
+            QTRY_VERIFY2(*end, "the work doesn't learn that it was stopped");
+        }
     }
 
     void EveryListKeepsTheRulesOfModels() {

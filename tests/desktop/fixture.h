@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -97,6 +98,20 @@ public:
         Press(CentreOf(id), button);
         Move(to, button);
         Release(to, button);
+    }
+    /// Whether the screen shows what the table would look like if it were painted afresh.
+    bool ScreenIsTrue() {
+        varnello::TableView& table = window.table();
+        const QPoint at = table.mapTo(&window, QPoint(0, 0));
+        const auto isTrue = [&] {
+            const QImage screen =
+                window.screen()
+                    ->grabWindow(window.winId(), at.x(), at.y(), table.width(), table.height())
+                    .toImage()
+                    .convertToFormat(QImage::Format_RGB32);
+            return screen == table.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        return QTest::qWaitFor(isTrue, 1000);  // a drag is painted with the next frame
     }
     /// The lines of the first player's score file, without their dates.
     std::vector<std::string> Scores() {

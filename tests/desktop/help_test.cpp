@@ -37,10 +37,10 @@ private Q_SLOTS:
             QVERIFY2(page.html.contains("<b>Aim</b>") && page.html.contains("<h2>Hints</h2>"),
                      qPrintable(name + " has no page with hints in assets/help/games/"));
         }
-        QVERIFY(names.last().startsWith("game:"));
+        QVERIFY2(names.last().startsWith("game:"), "no game has a page");
         QCOMPARE(PageNameOf(0), "contents");
         QCOMPARE(PageNameOf(TotalGames() + 1), "contents");
-        QVERIFY(PageOf("game:Nonsense").html.isEmpty());
+        QVERIFY2(PageOf("game:Nonsense").html.isEmpty(), "a page of no game");
     }
 
     void TheFactsFitTheDeal() {
@@ -84,10 +84,10 @@ private Q_SLOTS:
             act(help);
         };
         open([](HelpWindow& help) {
-            QTRY_VERIFY(help.isActiveWindow());
+            QTRY_VERIFY2(help.isActiveWindow(), "the help opens behind");
             help.showMinimized();
             help.ShowPage("playing");
-            QVERIFY(!help.isMinimized());
+            QVERIFY2(!help.isMinimized(), "the help stays minimized");
             help.setGeometry(40, 50, 500, 450);
             help.close();
         });

@@ -53,7 +53,7 @@ public:
         engine().data().Set(keys::ReplaySpeed, 50);
         engine().life().SelectBy(SelectHearts);
         Start("Freecell", 7);
-        QTRY_VERIFY(Seen() > 3);
+        QTRY_VERIFY2(Seen() > 3, "no cards are dealt");
         if (moment == Deal) return;
         window.motion().Finish();
         for (int i = 0; i < 3; ++i) {
@@ -226,7 +226,8 @@ private Q_SLOTS:
         const QString expected = command.outcome[std::size_t(moment)];
         command.act(paced);
         if (expected.contains("FinishDialog")) {
-            QTRY_VERIFY(paced.opened.contains("varnello::FinishDialog"));
+            QTRY_VERIFY2(paced.opened.contains("varnello::FinishDialog"),
+                         "a win without its dialog");
         }
         QCOMPARE(paced.Outcome(), expected);
         if (closed.count() > 0) return;
@@ -252,7 +253,7 @@ private Q_SLOTS:
         QVERIFY(paced.window.motion().Showing());
         QVERIFY2(key(true), "a repetition would be taken for another command");
         QVERIFY(paced.window.motion().Showing());
-        QVERIFY(!key(false));
+        QVERIFY2(!key(false), "a key pressed anew counts for nothing");
         QVERIFY2(!paced.window.motion().Showing(), "a real press finishes the flight");
         QVERIFY2(!key(true), "a repetition after the flight counts");
     }
@@ -276,10 +277,10 @@ private Q_SLOTS:
             const int running = paced.engine().data().GameRunning ? 1 : 0;
             paced.window.close();
             QCOMPARE(paced.engine().score().SesTop(), int(paced.Scores().size()));
-            QVERIFY(!paced.engine().data().GameRunning);
+            QVERIFY2(!paced.engine().data().GameRunning, "a game is left behind");
             games += int(paced.Scores().size()) + running;
         }
-        QVERIFY(games > 100);
+        QVERIFY2(games > 100, "hardly a game was played");
     }
 };
 

@@ -40,9 +40,13 @@ private Q_SLOTS:
         fixture.Press(from);
         fixture.Move(from + QPoint(1, 0));  // no threshold
         QCOMPARE(fixture.Card(card).Left, left + 15);
-        fixture.Move(from + QPoint(-40, 200));
+        for (const QPoint by : {QPoint(-200, 60), QPoint(30, 300), QPoint(-40, 200)}) {
+            fixture.Move(from + by);
+            QVERIFY2(fixture.ScreenIsTrue(), "the drag leaves something behind");
+        }
         QCOMPARE(fixture.Card(card).Top, top + 3000);
         fixture.Release(from + QPoint(-40, 200));
+        QVERIFY2(fixture.ScreenIsTrue(), "the card that went back leaves something behind");
         QCOMPARE(fixture.Card(card).Left, left);
         QCOMPARE(fixture.Card(card).Top, top);
         QCOMPARE(fixture.engine().trans().GetTransID(), 0);
@@ -59,7 +63,7 @@ private Q_SLOTS:
         fixture.Move(from + QPoint(300, 250));
         fixture.Press(from + QPoint(300, 250), Qt::RightButton);
         fixture.Release(from + QPoint(300, 250), Qt::RightButton);
-        QVERIFY(fixture.engine().gestures().Dragging());
+        QVERIFY2(fixture.engine().gestures().Dragging(), "the card isn't held");
         fixture.Release(from + QPoint(300, 250));
         QCOMPARE(fixture.Card(card).Left, home);
     }
@@ -136,7 +140,7 @@ private Q_SLOTS:
         fixture.StartWithoutAutoplay("Freecell");
         const PicID id = fixture.Top(Cell::Home, 0);
         fixture.Press(fixture.CentreOf(id));
-        QVERIFY(fixture.engine().gestures().Target(id));
+        QVERIFY2(fixture.engine().gestures().Target(id), "no pile would take the card");
         fixture.Release(fixture.CentreOf(id));
         QCOMPARE(fixture.engine().trans().GetTransID(), 0);
         fixture.Drag(id, fixture.CentreOf(id) + QPoint(1, 0));
@@ -160,7 +164,7 @@ private Q_SLOTS:
         const PicID id = fixture.Top(Cell::Home, 3);
         fixture.Press(fixture.CentreOf(id));
         fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
-        QTRY_VERIFY(seen() != plain);
+        QTRY_VERIFY2(seen() != plain, "the target isn't outlined");
         fixture.Move(fixture.At(slot.Left + 700, 9000));
         QTRY_COMPARE(seen(), plain);
         fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
@@ -179,10 +183,10 @@ private Q_SLOTS:
         connect(&motion, &Motion::Changed, this,
                 [&] { atLandings.push_back(fixture.sounds.heard.size()); });
         QTest::keyClick(&fixture.window, Qt::Key_F7);
-        QTRY_VERIFY(!motion.Showing());
+        QTRY_VERIFY2(!motion.Showing(), "the cascade doesn't end");
         std::vector<std::size_t> expected(atLandings.size());
         std::iota(expected.begin(), expected.end(), 1);
-        QVERIFY(expected.size() >= 3);
+        QVERIFY2(expected.size() >= 3, "no cascade");
         QCOMPARE(atLandings, expected);
         QCOMPARE(fixture.sounds.heard, std::vector<Sound>(expected.size(), Sound::AutoPlay));
     }

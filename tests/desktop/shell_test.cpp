@@ -30,9 +30,10 @@ private Q_SLOTS:
             if (way < 2) QTest::keyClick(program.splash(), Qt::Key_A);
             QTRY_VERIFY_WITH_TIMEOUT(program.window() && !program.splash(), 3000);
             QCOMPARE(ended.count(), 1);
-            QVERIFY(program.window()->isMaximized() && program.window()->select()->isVisible());
+            QVERIFY2(program.window()->isMaximized() && program.window()->select()->isVisible(),
+                     "no selector over a maximized window");
             program.UnloadAll();
-            QVERIFY(!program.window());
+            QVERIFY2(!program.window(), "the window is still there");
         }
     }
 

@@ -97,7 +97,7 @@ private Q_SLOTS:
         };
         // By the menu, with the keyboard: File, New Game.
         xdotool({"key", "alt+f", "n"});
-        QTRY_VERIFY(stored.GameRunning);
+        QTRY_VERIFY2(stored.GameRunning, "New Game of the menu: no game");
         window.engine().commands().CloseGame();
         const QStringList enter{"key", "Return"};
         QVERIFY(run({"key", "shift+F2"}, {{"NumberDialog", {"type", "0"}},
@@ -106,7 +106,7 @@ private Q_SLOTS:
                                           {"NumberDialog", {"type", "12.5"}},
                                           {"NumberDialog", enter}}));
         QCOMPARE(stored.CurGNo.Shown(), "12.5");  // typing replaces the 0 of the complaint
-        QTRY_VERIFY(window.menu().mFav(FavItem::Add)->isEnabled());
+        QTRY_VERIFY2(window.menu().mFav(FavItem::Add)->isEnabled(), "Add to Favorites stays grey");
         QVERIFY(run({"key", "ctrl+a"}, {{"QMessageBox", enter}}));
         QVERIFY(run({"key", "ctrl+p"}, {{"PlayFavoriteDialog", enter}}));
         QCOMPARE(ReadLines(data / "Player1.sre").size(), std::size_t{2});
@@ -118,7 +118,7 @@ private Q_SLOTS:
                                         {"NameDialog", enter},
                                         {"PlayersDialog", {"key", "Escape"}}}));
         QCOMPARE(stored.GetPlayer(2), "Ann");
-        QTRY_VERIFY(window.menu().mTools(ToolsItem::History)->isEnabled());
+        QTRY_VERIFY2(window.menu().mTools(ToolsItem::History)->isEnabled(), "History stays grey");
         QVERIFY(run({"key", "ctrl+h"}, {{"HistoryDialog", {"key", "Escape"}}}));
         QVERIFY(run({"key", "ctrl+f"}, {{"OrganizeFavoritesDialog", enter}}));
         window.close();
@@ -175,11 +175,11 @@ private Q_SLOTS:
                 QTRY_VERIFY2(engine.trans().TransTop() > before, command.c_str());
             }
         }
-        QTRY_VERIFY(shown);
-        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QTRY_VERIFY2(shown, "the won dialog didn't open");
+        QTRY_VERIFY2(!QApplication::activeModalWidget(), "Escape doesn't close the won dialog");
         const auto lines = ReadLines(data / "Player1.sre");
         QCOMPARE(lines.size(), std::size_t{1});
-        QVERIFY(lines[0].ends_with(",1"));
+        QVERIFY2(lines[0].ends_with(",1"), "booked as lost");
     }
 };
 

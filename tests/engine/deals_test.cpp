@@ -50,14 +50,6 @@ TEST_F(Deals, OfTheCatalogueAreWholeAndShowASlotForEachPile) {
     }
 }
 
-TEST_F(Deals, NamesAndIdsOfTheCatalogue) {
-    for (int id = 1; id <= TotalGames(); ++id) {
-        EXPECT_EQ(engine.data().GetGameID(engine.data().GetGName(I16(id))), id);
-    }
-    EXPECT_EQ(engine.data().GetGameID("freecell"), 0);
-    for (const int id : {0, -1, TotalGames() + 1}) EXPECT_EQ(engine.data().GetGName(I16(id)), "");
-}
-
 TEST_F(Deals, StartsOfTheFoundations) {
     const struct {
         int type, cards;

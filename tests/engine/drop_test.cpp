@@ -97,22 +97,6 @@ TEST(Drops, CentreIsStrictAndRoundsToEven) {
     }
 }
 
-TEST(Groups, AreLimitedByFreePlaces) {
-    const struct {
-        int freeReserves, emptyPiles, extra;
-    } cases[] = {{0, 0, 0}, {1, 0, 1}, {4, 0, 4}, {0, 3, 3}, {2, 2, 8}, {4, 1, 9}};
-    const std::string run = Cards(kDown, "HS");
-    for (const auto& c : cases) {
-        HandBoard board(Freecells(c.emptyPiles + 1), "t0 9D " + run);
-        for (int i = c.freeReserves; i < 4; ++i) board.Lay("r" + std::to_string(i) + " 2C");
-        EXPECT_EQ(MaxExtraCards(board.field), c.extra);
-        for (int above = 0; above <= 12; ++above) {
-            EXPECT_EQ(board.PicksUp(run.substr(std::size_t(36 - 3 * above), 2)), above <= c.extra);
-        }
-        EXPECT_FALSE(board.PicksUp("9D")) << "a broken run";
-    }
-}
-
 TEST(Groups, AreUpToTheGame) {
     const auto pickedUp = [](const GameRow& row, std::string_view piles, std::string_view card) {
         return HandBoard(row, piles).PicksUp(card);

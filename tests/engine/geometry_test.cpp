@@ -47,16 +47,6 @@ TEST(Geometry, RunsRowsAndCardsTheirOwnWay) {
     }
 }
 
-TEST(Geometry, HeapsGrowUpAndLeftEverMoreRarely) {
-    const cGames games = Game("Cascade");  // stock at (3080, 200), waste at (3080, 1840)
-    const std::pair<int, int> steps[] = {{0, 0},   {2, 0},   {3, 30},  {12, 30},  {13, 60},
-                                         {30, 60}, {31, 90}, {56, 90}, {57, 120}, {91, 150}};
-    for (const auto& [pos, step] : steps) {
-        EXPECT_EQ(games.GetCordX({Cell::Stock, 0, I16(pos)}, 0), 3080 - step) << pos;
-        EXPECT_EQ(games.GetCordY({Cell::Waste, 0, I16(pos)}, 0), 1840 - step) << pos;
-    }
-}
-
 TEST(Geometry, ClosedCardsLieCloserBelowOrInRows) {
     const struct {
         PileOrder order;

@@ -53,17 +53,6 @@ TEST_F(Log, BracketJoinsItsRecords) {
     EXPECT_EQ(trans.GetTransID(), 1);
 }
 
-TEST_F(Log, InnerEndEndsTheBracket) {
-    trans.StartMulti();
-    Shuttle(1);
-    trans.StartMulti();
-    Shuttle(2);
-    trans.EndMulti();
-    Shuttle(2);
-    trans.EndMulti();
-    EXPECT_EQ(Groups(), "011000");
-}
-
 TEST_F(Log, CardBelowClosesBeforeTheMovedCardFlies) {
     Lay("t0 -2C QH");
     Do("QH>r2");

@@ -47,18 +47,6 @@ TEST_F(Settings, AreWrittenOnceForACommandAndOnlyWhenTheyChange) {
     EXPECT_EQ(store.writes, 1) << "what stands there, or counts when nothing does";
 }
 
-TEST_F(Settings, AreReadOnceForACascade) {
-    data.Set(keys::Autoplay, 0);
-    Play(Hearts());
-    Start("Hearts");
-    data.Set(keys::Autoplay, 1);
-    store.reads.clear();
-    DropOn(Find(kAce), Cell::Goal, 0);
-    EXPECT_TRUE(data.GameWon);
-    EXPECT_EQ(store.reads["Autoplay"], 1);
-    EXPECT_EQ(store.reads["SoundAutoPlay"], 1);
-}
-
 TEST_F(Settings, SoundIsHeardOnlyWithItsSwitchAtMinusOne) {
     for (const SoundRow& row : kSounds) {
         for (const SoundRow& other : kSounds) data.Set(SwitchOf(other.Event), 1);

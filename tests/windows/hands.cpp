@@ -223,6 +223,15 @@ QString Do(const QString& act, WindowFixture& fixture) {
         QTest::mouseClick(&fixture.window.table(), Qt::LeftButton, {}, at);
         return {};
     }
+    if (verb == "wheel") {
+        const QPoint at = fixture.window.table().rect().center();
+        QWheelEvent turn(at, fixture.window.table().mapToGlobal(at), {},
+                         {0, what.startsWith("up") ? 120 : -120}, {},
+                         what.endsWith("Ctrl") ? Qt::ControlModifier : Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&fixture.window.table(), &turn);
+        return {};
+    }
     if (verb == "key") {
         const QKeyCombination key = QKeySequence(what)[0];
         QTest::keyClick(focus, key.key(), key.keyboardModifiers());
@@ -243,7 +252,10 @@ QString Do(const QString& act, WindowFixture& fixture) {
     } else if (verb == "drop") {
         Drop(fixture, what.section(' ', 0, 0).toInt(), what.section(' ', 1).toInt());
     } else if (auto* list = Find<QAbstractItemView>(front, what)) {
-        return ActOn(*list, verb, value) ? QString() : nothing;
+        const bool found = ActOn(*list, verb, value);
+        // The library leaves the button of a double click down.
+        if (verb == "open") QTest::mouseRelease(&fixture.window, Qt::LeftButton);
+        return found ? QString() : nothing;
     } else {
         return nothing;
     }
