@@ -43,16 +43,6 @@ private Q_SLOTS:
         QVERIFY2(PageOf("game:Nonsense").html.isEmpty(), "a page of no game");
     }
 
-    void TheFactsFitTheDeal() {
-        NullDesktop nothing;
-        for (const GameRow& row : kCatalogue) {
-            Engine engine(nothing.Interfaces({}));
-            engine.data().Set(keys::Autoplay, 0);
-            engine.life().StartGame(std::string(row.Name), GameNumber::Number(3));
-            QCOMPARE(engine.array().GetTop(Cell::Stock, 0) + 1, CardsLeftOnStock(row));
-        }
-    }
-
     void TheGridFollowsTheWidth() {
         WindowFixture fixture;
         fixture.window.menu().mHelp(HelpItem::Rules)->trigger();

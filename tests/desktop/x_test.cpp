@@ -64,67 +64,6 @@ class XTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void ChoosesAndKeepsByKeyboard() {
-        if (QGuiApplication::platformName() != "xcb") QSKIP("needs an X server");
-        QTemporaryDir home;
-        MemoryStore settings;
-        SystemClock clock;
-        NoSounds sounds;
-        const std::filesystem::path data = home.path().toStdString() + "/data";
-        MainWindow window({settings, clock, sounds, data});
-        window.motion().SetPaced(false);
-        window.showMaximized();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        cData& stored = window.engine().data();
-
-        // Keys go out only when a window of the kind that they are for has the focus.
-        using Steps = QList<std::pair<QByteArray, QStringList>>;
-        const auto run = [&](const QStringList& open, Steps steps) {
-            QElapsedTimer time;
-            time.start();
-            QTimer step;
-            connect(&step, &QTimer::timeout, [&] {
-                QWidget* active = QApplication::activeModalWidget();
-                if (active && time.elapsed() > 20000) active->close();  // lost: let the test fail
-                if (steps.isEmpty() || !active || !active->isActiveWindow()) return;
-                const QByteArray kind = active->metaObject()->className();
-                if (kind.endsWith(steps.first().first)) xdotool(steps.takeFirst().second);
-            });
-            step.start(60);
-            xdotool(open);
-            return QTest::qWaitFor(
-                [&] { return steps.isEmpty() && !QApplication::activeModalWidget(); }, 25000);
-        };
-        // By the menu, with the keyboard: File, New Game.
-        xdotool({"key", "alt+f", "n"});
-        QTRY_VERIFY2(stored.GameRunning, "New Game of the menu: no game");
-        window.engine().commands().CloseGame();
-        const QStringList enter{"key", "Return"};
-        QVERIFY(run({"key", "shift+F2"}, {{"NumberDialog", {"type", "0"}},
-                                          {"NumberDialog", enter},
-                                          {"QMessageBox", enter},
-                                          {"NumberDialog", {"type", "12.5"}},
-                                          {"NumberDialog", enter}}));
-        QCOMPARE(stored.CurGNo.Shown(), "12.5");  // typing replaces the 0 of the complaint
-        QTRY_VERIFY2(window.menu().mFav(FavItem::Add)->isEnabled(), "Add to Favorites stays grey");
-        QVERIFY(run({"key", "ctrl+a"}, {{"QMessageBox", enter}}));
-        QVERIFY(run({"key", "ctrl+p"}, {{"PlayFavoriteDialog", enter}}));
-        QCOMPARE(ReadLines(data / "Player1.sre").size(), std::size_t{2});
-        QVERIFY(run({"key", "ctrl+l"}, {{"PlayersDialog", {"key", "Tab"}},
-                                        {"PlayersDialog", {"key", "space"}},
-                                        {"NameDialog", enter},
-                                        {"QMessageBox", enter},
-                                        {"NameDialog", {"type", "Ann"}},
-                                        {"NameDialog", enter},
-                                        {"PlayersDialog", {"key", "Escape"}}}));
-        QCOMPARE(stored.GetPlayer(2), "Ann");
-        QTRY_VERIFY2(window.menu().mTools(ToolsItem::History)->isEnabled(), "History stays grey");
-        QVERIFY(run({"key", "ctrl+h"}, {{"HistoryDialog", {"key", "Escape"}}}));
-        QVERIFY(run({"key", "ctrl+f"}, {{"OrganizeFavoritesDialog", enter}}));
-        window.close();
-        QVERIFY(ReadLines(data / "Player1.sre").at(2).find(",\"12.5\",") != std::string::npos);
-    }
-
     void WinsWholeGames_data() {
         QTest::addColumn<int>("zoom");  // steps
         // One with a stock, one with reserves, one of two packs; the others are played without X.

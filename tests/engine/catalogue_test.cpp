@@ -1,7 +1,8 @@
 #include "engine/definitions/check_row.h"
+#include "engine/definitions/describe.h"
 #include "fixture.h"
 
-// What the compiler refuses in the catalogue, with made-up rows.
+// What the games are, in words; and what the compiler refuses in the catalogue, with made-up rows.
 namespace varnello::test {
 namespace {
 
@@ -142,6 +143,24 @@ TEST(Rows, ImpossibleOnesAreRefusedInWords) {
         EXPECT_TRUE(c.fault.empty() ? fault.empty() : fault.starts_with(c.fault))
             << "wanted: " << c.fault << "; said: " << fault;
     }
+}
+
+/// Each game of the list is what its name, then its rules say; an empty line ends it.
+TEST(Catalogue, GamesKeepTheirRules) {
+    std::istringstream games(ReadFile(VARNELLO_RULES));
+    int count = 0;
+    for (std::string name; std::getline(games, name); ++count) {
+        std::string rules;
+        for (std::string line; std::getline(games, line) && !line.empty();) rules += line + '\n';
+        const GameRow* row = FindGame(name);
+        ASSERT_TRUE(row) << name;
+        std::string told;
+        for (const GameFact& fact : Describe(*row)) {
+            told += std::string(fact.Heading) + ": " + fact.English() + '\n';
+        }
+        EXPECT_EQ(told, rules) << name;
+    }
+    EXPECT_EQ(count, 35);
 }
 
 }  // namespace

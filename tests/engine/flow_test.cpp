@@ -31,18 +31,6 @@ TEST_F(Flow, FirstRunMakesTheFolderAndAPlayer) {
     EXPECT_EQ(engine.data().CurPlayer(), "Ada");
 }
 
-TEST_F(Flow, StartSetsTheFieldsOfTheGame) {
-    EXPECT_EQ(engine.life().Caption(), "Varnello");
-    clock.Set({2026, 11, 18, 12, 51, 26});
-    engine.data().CurTime = 5;
-    engine.life().StartGame("Penguin", GameNumber::Text("12.5"));
-    EXPECT_EQ(engine.data().LastGName(), "Penguin");
-    EXPECT_EQ(engine.data().CurGNo, GameNumber::Text("12.5"));
-    EXPECT_EQ(engine.data().GameStartTime, (DateTime{2026, 11, 18, 12, 51, 26}));
-    EXPECT_EQ(engine.data().CurTime, 5) << "the counters keep the last game's values";
-    EXPECT_EQ(engine.life().Caption(), "Varnello [Penguin] [Player1] [12.5]");
-}
-
 TEST_F(Flow, EndEmptiesTheTableAndKeepsTheName) {
     Start("Cascade", 11);
     const PicID card = Top(Cell::Home, 0);

@@ -50,6 +50,11 @@ TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {
               "\"A\",\"any text\"\r\n\"A\",6");
     engine.favorites().OpenFav();
     EXPECT_EQ(engine.favorites().NumbersOf("A"), (std::vector<std::string>{"1", "any text", "6"}));
+    Start("Penguin", 5);
+    for (int added = 0; added < 2; ++added) engine.commands().AddFavorite();
+    engine.choosing().ClearFavorites();
+    EXPECT_EQ(engine.favorites().FavTop(), 0) << "cleared ones aren't listed";
+    engine.commands().CloseGame();
     std::string many;
     for (int i = 0; i < 33000; ++i) many += "\"A\",7\r\n";
     WriteFile(File("fav.dat"), many);

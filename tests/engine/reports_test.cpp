@@ -186,6 +186,9 @@ TEST_F(Reports, LogPassesByCalendarAge) {
         }
         EXPECT_EQ(found, passes) << date;
     }
+    Write({Game(-7), Game(-3), Game(-5)});
+    const std::vector<std::uint32_t> all{0, 1, 2};
+    EXPECT_EQ(TotalsOf(engine.score().List(), all).BestScore, -3);
 }
 
 TEST_F(Reports, ExportKeepsItsColumns) {
@@ -245,6 +248,11 @@ TEST_F(Reports, WinsInARowAndAPlaceAmongThem) {
     EXPECT_EQ(engine.score().PlayerStreak("Player1"), (Streak{2, 2}));
     EXPECT_EQ(engine.score().PlayerStreak("Player1", "Freecell"), (Streak{2, 2}));
     EXPECT_EQ(engine.score().PlayerStreak("Player1", "Avenue"), (Streak{0, 0}));
+    Write({won(1), Game(1, 1, 5, 0, "1/31/2026 12:00:00 PM", "Penguin"), won(2), won(3)});
+    EXPECT_EQ(engine.score().PlayerStreak("Player1"), (Streak{2, 2})) << "the best one is on";
+    EXPECT_EQ(engine.score().PlayerStreak("Player1", "Freecell"), (Streak{3, 3}));
+    EXPECT_EQ(engine.score().PlayerStreak("Player1", "Penguin"), (Streak{0, 0}));
+    Write({won(10), won(20), Game(1, 1, 5, 0), won(15), won(30)});
     ScoreRecord last = won(30);
     last.Player = "Player1";
     EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last))->English(),
