@@ -207,9 +207,12 @@ QString Do(const QString& act, WindowFixture& fixture) {
         return item ? QString() : nothing;
     }
     if (verb == "go") {
-        auto* widget = Find<QWidget>(front, what);
-        if (widget) widget->setFocus();
-        return widget ? QString() : nothing;
+        for (auto* widget : front.findChildren<QWidget*>()) {
+            if (widget->focusPolicy() == Qt::NoFocus || NameOf(*widget) != what) continue;
+            widget->setFocus();
+            return {};
+        }
+        return nothing;
     }
     if (verb == "follow") {
         auto* page = front.findChild<QTextBrowser*>();
