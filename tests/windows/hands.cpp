@@ -195,6 +195,8 @@ QString Do(const QString& act, WindowFixture& fixture) {
     const QString nothing = "nothing is called so";
     if (Arrange(verb, what, value, fixture)) return {};
     QWidget& front = Front(fixture);
+    // A window manager would do it when the window over it closes.
+    if (&front == &fixture.window) QApplication::setActiveWindow(&front);
     QWidget* focus = front.focusWidget() ? front.focusWidget() : &front;
     if (verb == "click") return Click(front, what) ? QString() : nothing;
     if (verb == "choose") {
