@@ -8,9 +8,12 @@
 #include "desktop/appearance/colours.h"
 #include "desktop/appearance/looks.h"
 #include "desktop/appearance/preview.h"
+#include "desktop/appearance/sample_deal.h"
 #include "desktop/appearance/table_painter.h"
 #include "desktop/platform/settings_store.h"
 #include "engine/definitions/catalogue.h"
+#include "engine/flow/engine.h"
+#include "engine/null_desktop.h"
 
 // Colours, pictures and the settings file.
 using namespace varnello;
@@ -226,6 +229,12 @@ private Q_SLOTS:
                 }
             }
             QVERIFY2(edge.size() == 1 && all.size() > 100, game.Name.data());
+            NullDesktop nothing;
+            Engine dealt(nothing.Interfaces({}));
+            dealt.data().Set(keys::Autoplay, 0);
+            dealt.life().StartGame(std::string(game.Name), GameNumber::Number(1));
+            QVERIFY2(LooksSame(SampleDeal(std::string(game.Name)), dealt.table()),
+                     "a preview of a deal that has been played");
         }
     }
 

@@ -11,25 +11,6 @@ At Stands(HandBoard& board, std::string_view card) {
     return {board.Card(card).Left, board.Card(card).Top};
 }
 
-TEST(Gestures, SoundWhateverTheyMove) {
-    HandBoard board(Freecells(), "t0 KH 4S, t1 QS");
-    for (const Sound event : {Sound::CardDown, Sound::CardUp}) {
-        board.data.Set(SwitchOf(event), -1);
-    }
-    board.Do("KH@5000,5000");
-    EXPECT_EQ(board.Heard(), "sound: CardDown\n") << "nothing was picked up";
-    board.Do("4S");
-    EXPECT_EQ(board.Heard(), "sound: CardDown\nsound: CardUp\n");
-    board.Press("QS");
-    board.Press("KH");  // forgets the queen
-    board.Release("KH");
-    EXPECT_EQ(board.Heard(), "sound: CardDown\nsound: CardDown\n");
-    board.data.GameRunning = false;
-    board.Do("4S@5000,5000 slot");
-    EXPECT_EQ(board.Heard(), "");
-    EXPECT_EQ(Stands(board, "4S"), At(1000, 3250));
-}
-
 TEST(Gestures, GripPointStaysUnderThePointer) {
     HandBoard board(Freecells(), "t0 KH QS");
     const PicID queen = board.Id("QS");

@@ -24,16 +24,6 @@ TEST(Motion, FirstCardFliesFromWhereItStandsAndTheOthersJump) {
     EXPECT_TRUE(LooksSame(board.surface.scene, board.table));
 }
 
-TEST(Motion, OpensTheClosedTableauCardBelow) {
-    HandBoard board(Freecells(), "t0 -4C QH, t1 -5C, w0 -6C JH");
-    Move(board, "QH", {Cell::Res, 0, 0}, MoveKind::FromStock);
-    Move(board, "JH", {Cell::Res, 1, 0});
-    Move(board, "5C", {Cell::Res, 2, 0});
-    EXPECT_EQ(board.Text(), "t0 4C, w0 -6C, r0 QH, r1 JH, r2 5C");
-    EXPECT_EQ(board.trans.Record(1).MoveKind, MoveKind::Uncover);
-    EXPECT_EQ(board.trans.Record(3).MoveKind, MoveKind::Play);
-}
-
 TEST(Motion, FullFoundationRefusesInSilence) {
     const std::string piles = "t0 -4C 2C, g0 " + Cards(kUp, "H");
     HandBoard board(Freecells(), piles);

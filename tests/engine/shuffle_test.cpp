@@ -18,16 +18,6 @@ protected:
     std::vector<int> Order(double number) { return Order(GameNumber::Number(number)); }
 };
 
-TEST_F(Shuffle, FirstGameBeginsAsItAlwaysDid) {
-    const std::vector<int> expected{20, 2, 5, 24, 50, 6, 18, 14, 43, 11};
-    const std::vector<int> order = Order(1);
-    EXPECT_EQ(std::vector<int>(order.begin(), order.begin() + 10), expected);
-    for (int i = 0; i < 7; ++i) engine.choosing().RandomGNo();
-    clock.Advance(12345);
-    EXPECT_EQ(Order(1), order) << "whatever was drawn before";
-    EXPECT_EQ(Order(GameNumber::Number(1), "Penguin"), order);
-}
-
 TEST_F(Shuffle, GoesByTheNumbersValue) {
     for (const char* text : {"1", "1.0", "+1", "0.1e1", "10e-1"}) {
         EXPECT_EQ(Order(GameNumber::Text(text)), Order(1)) << text;
