@@ -49,7 +49,7 @@ def mutants_of(path):
             if line.startswith("@ "):
                 file = line[2:]
             elif line[:1] in parts:
-                parts[line[0]].append(line[2:])
+                parts[line[0]].append(line[1:].removeprefix(" "))
             elif line and not line.startswith("#"):
                 sys.exit(f"{path}: {line}")
         if parts["-"]:
