@@ -212,6 +212,8 @@ private Q_SLOTS:
         QCOMPARE(preview.size(), QSize(477, 302));
         QVERIFY2(preview.toImage() != previews.Of("Penguin", 1.5).toImage(),
                  "two games, one preview");
+        QVERIFY2(previews.Of("Zodiac", 1).toImage() == Previews().Of("Zodiac", 1).toImage(),
+                 "drawn for another screen");
     }
 
     void PreviewsShowAllOfATable() {
@@ -247,6 +249,9 @@ private Q_SLOTS:
         const FileSettings other;
         QCOMPARE(other.Read("Data", "Autoplay", "1"), "0");
         QCOMPARE(other.Read("Users", "1", ""), "Zoë, \"the\" 名=[x]");
+        QFile file(home_.path() + "/Varnello/Varnello.ini");
+        QVERIFY2(file.open(QIODevice::ReadOnly) && file.readAll().contains("Autoplay=0"),
+                 "not on the disk");
     }
 
     void ASettingsFileFullOfNonsenseReadsAsDefaults() {

@@ -47,6 +47,12 @@ private Q_SLOTS:
         WindowFixture fixture;
         fixture.window.menu().mHelp(HelpItem::Rules)->trigger();
         HelpWindow* help = Help();
+        const auto width = [&](const char* picture) {
+            const QVariant found =
+                help->browser()->document()->resource(QTextDocument::ImageResource, QUrl(picture));
+            return found.value<QPixmap>().width();
+        };
+        QVERIFY2(width("small:Penguin") * 2 <= width("preview:Penguin"), "a page's small picture");
         for (const int columns : {1, 2, 4}) {
             help->resize(210 + columns * 170, 600);
             QVERIFY(help->browser()->horizontalScrollBar()->maximum() == 0);

@@ -19,18 +19,6 @@ protected:
     }
 };
 
-TEST_F(Flow, FirstRunMakesTheFolderAndAPlayer) {
-    EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "data"));
-    EXPECT_EQ(engine.data().TotalPlayers(), 1);
-    EXPECT_EQ(engine.data().CurPlayer(), "Player1");
-    engine.data().SetPlayer(1, "", false);
-    engine.data().SetPlayer(3, "Ada", false);
-    engine.data().CurPlayer("");
-    engine.InitMain();
-    EXPECT_EQ(engine.data().GetPlayer(1), "Ada") << "later runs make none, but close gaps";
-    EXPECT_EQ(engine.data().CurPlayer(), "Ada");
-}
-
 TEST_F(Flow, EndEmptiesTheTableAndKeepsTheName) {
     Start("Cascade", 11);
     const PicID card = Top(Cell::Home, 0);
