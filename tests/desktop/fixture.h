@@ -49,6 +49,15 @@ Button* Captioned(const QWidget& window, const QString& caption) {
     qFatal("no button %s", qPrintable(caption));
 }
 
+/// What the screen shows of a part of a window.
+inline QImage OnScreen(const QWidget& part) {
+    const QWidget& window = *part.window();
+    const QPoint at = part.mapTo(&window, QPoint());
+    return window.screen()
+        ->grabWindow(window.winId(), at.x(), at.y(), part.width(), part.height())
+        .toImage();
+}
+
 /// A main window whose settings live in memory and whose clock the test moves; score files go to a
 /// folder of the test's own. Flights aren't paced.
 class WindowFixture {
@@ -102,14 +111,9 @@ public:
     /// Whether the screen shows what the table would look like if it were painted afresh.
     bool ScreenIsTrue() {
         varnello::TableView& table = window.table();
-        const QPoint at = table.mapTo(&window, QPoint(0, 0));
         const auto isTrue = [&] {
-            const QImage screen =
-                window.screen()
-                    ->grabWindow(window.winId(), at.x(), at.y(), table.width(), table.height())
-                    .toImage()
-                    .convertToFormat(QImage::Format_RGB32);
-            return screen == table.grab().toImage().convertToFormat(QImage::Format_RGB32);
+            return OnScreen(table).convertToFormat(QImage::Format_RGB32) ==
+                   table.grab().toImage().convertToFormat(QImage::Format_RGB32);
         };
         return QTest::qWaitFor(isTrue, 1000);  // a drag is painted with the next frame
     }

@@ -4,7 +4,6 @@
 #include "desktop/help/pages.h"
 #include "desktop/platform/place_beside.h"
 #include "engine/definitions/catalogue.h"
-#include "engine/definitions/check_row.h"
 #include "fixture.h"
 
 // The help: every game has its page, every link leads somewhere, and the facts fit the deal.

@@ -153,13 +153,7 @@ private Q_SLOTS:
         TableView& table = fixture.window.table();
         const KesEmpty slot = fixture.engine().table().PicRes[0];
         const QPoint corner = fixture.At(slot.Left, slot.Top) - QPoint(2, -40);
-        const auto seen = [&] {
-            const QPoint at = table.mapTo(&fixture.window, corner);
-            return fixture.window.screen()
-                ->grabWindow(fixture.window.winId(), at.x(), at.y(), 1, 1)
-                .toImage()
-                .pixel(0, 0);
-        };
+        const auto seen = [&] { return OnScreen(table).pixel(corner); };
         const QRgb plain = seen();
         const PicID id = fixture.Top(Cell::Home, 3);
         fixture.Press(fixture.CentreOf(id));

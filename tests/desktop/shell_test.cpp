@@ -135,11 +135,7 @@ private Q_SLOTS:
         const QWidget& label = fixture.window.menu().Counters();
         QTRY_VERIFY2(label.isVisible() && label.width() > 100, "no counters");
         const auto right = [&] {  // of what is written
-            const QPoint at = label.mapTo(&fixture.window, QPoint());
-            const QImage seen = fixture.window.screen()
-                                    ->grabWindow(fixture.window.winId(), at.x(), at.y(),
-                                                 label.width(), label.height())
-                                    .toImage();
+            const QImage seen = OnScreen(label);
             const auto blank = [&](int x) {
                 for (int y = 0; y < seen.height(); ++y) {
                     if (seen.pixel(x, y) != seen.pixel(seen.width() - 1, 0)) return false;

@@ -31,7 +31,7 @@ class Mutant:
         if text.count(original) != 1:
             sys.exit(f"This doesn't stand exactly once in {file}:\n{original}")
         self.place = f"{file}:{text[:text.index(original)].count(chr(10)) + 1}"
-        self.content = text.replace(original, replacement)
+        self.whole, self.content = text, text.replace(original, replacement)
 
     def shown(self):
         return "".join(f"    {sign} {line}\n" for sign, text in
@@ -110,8 +110,6 @@ class Copy:
         made = subprocess.run(["ninja", "-C", self.build, *targets], capture_output=True, text=True,
                               check=False)
         if made.returncode:
-            if os.environ.get("VERBOSE"):
-                print(made.stdout[-3000:])
             return None
         snapshot = Path(tempfile.mkdtemp(dir=self.work, prefix="built-"))
         for path in self.build.rglob("*"):
@@ -123,11 +121,11 @@ class Copy:
         return snapshot
 
 
-def failures_of(command, environment=None):
+def failures_of(command, environment):
     """The names of the tests of a program that fail. A crash leaves the one that was running."""
     run = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                            errors="replace", start_new_session=True,
-                           env={**os.environ, **(environment or {})})
+                           env={**os.environ, **environment})
     try:
         out, code = run.communicate(timeout=LIMIT)[0], run.returncode
     except subprocess.TimeoutExpired:
@@ -244,7 +242,7 @@ def check(options, mutants, copy):
             name = f"src/{mutant.file}"
             copy.put(name, mutant.content.encode())
             snapshot = copy.builds()
-            copy.put(name, (ROOT / name).read_bytes())
+            copy.put(name, mutant.whole.encode())  # whatever has become of the file meanwhile
             if not snapshot:
                 survivors += 1
                 print(f"NO BUILD  {mutant.place}", flush=True)

@@ -14,7 +14,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScreen>
 #include <QSlider>
 #include <QTabBar>
 #include <QTableView>
@@ -24,6 +23,8 @@
 
 #include "desktop/charts/chart.h"
 #include "desktop/customize/look_preview.h"
+
+#include "../desktop/fixture.h"
 
 namespace varnello::test {
 namespace {
@@ -192,11 +193,7 @@ QString NameOf(const QWidget& widget) {
 }
 
 void LookAtPicture(const QWidget& part, const QString& name, Sight& sight) {
-    const QWidget* window = part.window();
-    const QRect at(part.mapTo(window, QPoint()), part.size());
-    const QImage seen = window->screen()
-                            ->grabWindow(window->winId(), at.x(), at.y(), at.width(), at.height())
-                            .toImage();
+    const QImage seen = OnScreen(part);
     sight.pictures[name] = qHashBits(seen.constBits(), static_cast<size_t>(seen.sizeInBytes()));
 }
 

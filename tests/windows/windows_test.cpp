@@ -152,9 +152,10 @@ private:
                            .arg(engine.trans().GetTransID())
                            .arg(engine.trans().TransTop())
                     << "player: " + ToQt(data.CurPlayer());
+        static const QRegularExpression size("size=\\d+ \\d+;?");  // of this screen
         for (const auto& [key, text] : fixture_.settings.stored) {
             QString kept = ToQt(text);
-            kept.remove(QRegularExpression("size=\\d+ \\d+;?"));  // of this screen
+            kept.remove(size);
             sight.lines << QString("setting: %1 = %2").arg(ToQt(key), kept);
         }
         for (const QString& name : QDir(ToQt(fixture_.Folder())).entryList(QDir::Files)) {

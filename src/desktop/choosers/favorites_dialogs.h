@@ -22,7 +22,6 @@ public:
     const std::optional<GameChoice>& Choice() const { return choice_; }
 
     QListWidget* numbers() const { return lvFav_; }
-    QPushButton* play() const { return cmdPlay_; }
 
 private:
     void UpdateLVFav();
@@ -41,10 +40,6 @@ class OrganizeFavoritesDialog : public QDialog {
 
 public:
     OrganizeFavoritesDialog(Engine& engine, QWidget* parent);
-
-    QListWidget* games() const { return lvGames_; }
-    QListWidget* numbers() const { return lvFav_; }
-    QPushButton* clear() const { return cmdClear_; }
 
 private:
     void UpdateLVFav();

@@ -49,13 +49,6 @@ PlayersDialog::PlayersDialog(Engine& engine, QWidget* parent)
     lvPlayer_->setFocus();
 }
 
-QPushButton* PlayersDialog::Button(const QString& text) const {
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        if (button->text() == text) return button;
-    }
-    return nullptr;
-}
-
 void PlayersDialog::RefreshList() {
     lvPlayer_->clear();
     const cData& data = engine_.data();

@@ -16,9 +16,6 @@ class PlayersDialog : public QDialog {
 public:
     PlayersDialog(Engine& engine, QWidget* parent);
 
-    QListWidget* players() const { return lvPlayer_; }
-    QPushButton* Button(const QString& text) const;
-
 private:
     void RefreshList();
     void UpdateDelete();
@@ -41,8 +38,6 @@ class NameDialog : public QDialog {
 public:
     /// An empty `name` asks for a new player, another one is to be renamed.
     NameDialog(Engine& engine, const QString& label, const std::string& name, QWidget* parent);
-
-    QLineEdit* name() const { return Text1_; }
 
 private:
     void Ok();

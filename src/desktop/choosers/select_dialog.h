@@ -24,7 +24,6 @@ public:
     GameTree* tree() const { return tree_; }
     QComboBox* players() const { return players_; }
     QPushButton* play() const { return play_; }
-    QPushButton* rules() const { return rules_; }
 
 Q_SIGNALS:
     /// The rules of this game are to be shown; the dialog stays open.

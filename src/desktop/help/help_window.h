@@ -22,9 +22,6 @@ public:
     void ShowPage(const QString& name);
 
     QTextBrowser* browser() const { return browser_; }
-    QLineEdit* find() const { return find_; }
-    /// What is said about the search.
-    QString Found() const { return found_->text(); }
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -15,8 +15,6 @@ class HistoryDialog : public QDialog {
 public:
     HistoryDialog(const cTrans& log, SettingsStore& store, QWidget* parent);
 
-    QTreeWidget* list() const { return lvHistory_; }
-
 private:
     QTreeWidget* lvHistory_;
 };
