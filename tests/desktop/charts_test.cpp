@@ -101,28 +101,6 @@ private Q_SLOTS:
         }
     }
 
-    void PaintsEachFigureAsLargeAsItIs() {
-        const auto pixels = [](const Chart& chart, Series series) {
-            const QImage image = const_cast<Chart&>(chart).grab().toImage();
-            const QRgb colour = SeriesColour(series, chart.palette()).rgb();
-            double count = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == colour;
-            }
-            return count;
-        };
-        const auto ring = Shown<ShareChart>({.series = kShare, .rows = {{1, 3}}});
-        const double times = pixels(*ring, Series::Lost) / pixels(*ring, Series::Won);
-        QVERIFY2(std::abs(times - 3) < 0.3, "three lost games aren't three times the one won");
-        const auto bars = Shown<TotalsChart>({.series = kFigures, .rows = {{50, 100, 3600}}});
-        const auto halves =
-            Shown<TotalsChart>({.series = kFigures, .rows = {{25, 50, 1800}, {50, 100, 3600}}});
-        for (const Series series : kFigures) {
-            const double part = pixels(*halves, series) / pixels(*bars, series);
-            QVERIFY2(std::abs(part - 0.5) < 0.05, "half of a figure isn't half as long");
-        }
-    }
-
     void TellsTheFiguresUnderTheMouse_data() {
         QTest::addColumn<int>("kind");
         QTest::addColumn<ChartTable>("table");

@@ -147,26 +147,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.engine().trans().GetTransID(), 1);
     }
 
-    void TheTargetIsOutlinedOnlyWhileItWouldTakeTheCard() {
-        WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
-        TableView& table = fixture.window.table();
-        const KesEmpty slot = fixture.engine().table().PicRes[0];
-        const QPoint corner = fixture.At(slot.Left, slot.Top) - QPoint(2, -40);
-        const auto seen = [&] { return OnScreen(table).pixel(corner); };
-        const QRgb plain = seen();
-        const PicID id = fixture.Top(Cell::Home, 3);
-        fixture.Press(fixture.CentreOf(id));
-        fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
-        QTRY_VERIFY2(seen() != plain, "the target isn't outlined");
-        fixture.Move(fixture.At(slot.Left + 700, 9000));
-        QTRY_COMPARE(seen(), plain);
-        fixture.Move(fixture.At(slot.Left + 700, slot.Top + 900));
-        fixture.Release(fixture.At(slot.Left + 700, slot.Top + 900));
-        QCOMPARE(fixture.Card(id).Loc, (Place{Cell::Res, 0, 0}));
-        QTRY_COMPARE(seen(), plain);
-    }
-
     void EachCardOfACascadeIsHeardAsItLands() {
         WindowFixture fixture;
         fixture.StartWithoutAutoplay("Stripped Freecell", 6);

@@ -129,26 +129,6 @@ private Q_SLOTS:
                  qRound(corner) + qRound(card.Left / 15));
     }
 
-    void CountersStandSideBySide() {
-        WindowFixture fixture;
-        fixture.Start("Freecell");
-        const QWidget& label = fixture.window.menu().Counters();
-        QTRY_VERIFY2(label.isVisible() && label.width() > 100, "no counters");
-        const auto right = [&] {  // of what is written
-            const QImage seen = OnScreen(label);
-            const auto blank = [&](int x) {
-                for (int y = 0; y < seen.height(); ++y) {
-                    if (seen.pixel(x, y) != seen.pixel(seen.width() - 1, 0)) return false;
-                }
-                return true;
-            };
-            int x = seen.width() - 1;
-            while (x > 0 && blank(x)) --x;
-            return x;
-        };
-        QTRY_VERIFY2(right() > label.width() * 2 / 3, "they are written over each other");
-    }
-
     void TheCloseBoxBooksARunningGame() {
         WindowFixture fixture;
         QSignalSpy closed(&fixture.window, &MainWindow::Closed);

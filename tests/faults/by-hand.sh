@@ -57,16 +57,6 @@ grep -q '^LastGName=Penguin' "$home/Varnello/Varnello.ini" || die "the display t
 echo "A display that goes away: the program ended, the game is booked, results and settings stand. It said:"
 sed 's/^/    /' "$home/said"
 
-for signal in TERM INT HUP; do
-    display "signal-$signal"
-    play env
-    kill -s "$signal" "$running"
-    until_true ended "$running"
-    [ "$(wc -l <"$home/Varnello/Player1.sre")" = 2 ] || die "SIG$signal: not booked once"
-    kill "$server"
-done
-echo "SIGTERM, SIGINT, SIGHUP: the running game is booked, once."
-
 display unwritable
 as_player=(env)
 [ "$(id -u)" != 0 ] || as_player=(setpriv --reuid=65534 --regid=65534 --clear-groups)
