@@ -19,6 +19,8 @@
 namespace varnello::test {
 namespace {
 
+constexpr int kNeverOver = 60000;  // milliseconds that letters count for a search
+
 /// A game of five cards, four of which start the foundations: the fifth one wins it.
 void SelectAlmostWon(cGames& games, const std::string&) {
     GameRow row = *FindGame("Stripped Freecell");
@@ -228,6 +230,12 @@ QString Do(const QString& act, WindowFixture& fixture) {
         QTest::mouseClick(&fixture.window.table(), Qt::LeftButton, {}, at);
         return {};
     }
+    if (verb == "point") {
+        const PicID top = what == "stock" ? fixture.Top(Cell::Stock, 0)
+                                          : fixture.Top(Cell::Home, what.toInt() - 1);
+        fixture.Move(fixture.CentreOf(top), Qt::NoButton);
+        return {};
+    }
     if (verb == "wheel") {
         const QPoint at = fixture.window.table().rect().center();
         QWheelEvent turn(at, fixture.window.table().mapToGlobal(at), {},
@@ -241,7 +249,11 @@ QString Do(const QString& act, WindowFixture& fixture) {
         const QKeyCombination key = QKeySequence(what)[0];
         QTest::keyClick(focus, key.key(), key.keyboardModifiers());
     } else if (verb == "type") {
-        QTest::keyClicks(focus, what);
+        for (const QChar letter : what) {
+            QTest::keyClick(focus, letter.toLatin1());
+            QApplication::setKeyboardInputInterval(kNeverOver);
+        }
+        QApplication::setKeyboardInputInterval(0);  // the next one begins another search
     } else if (verb == "close") {
         front.close();
     } else if (verb == "file") {

@@ -24,6 +24,7 @@ namespace varnello::test {
 ///     close                       the close box of the window in front
 ///     file NAME, colour NAME      in the toolkit's own dialogs
 ///     drop PILE SLOT              the last card of a pile of the tableau onto a reserve slot
+///     point PILE|stock            moves the mouse onto the last card
 ///     wheel up|down [Ctrl]        over the table
 ///     stock                       a click on the stock
 ///     start NUMBER GAME, end, almost NUMBER, player NAME, set KEY = VALUE, write FILE = LINE,

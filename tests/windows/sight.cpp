@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSlider>
@@ -32,6 +33,11 @@ namespace {
 constexpr int kFewItems = 6;  // of a combo
 constexpr int kFewRows = 13;  // of a list
 const QString kBar = QStringLiteral(" | ");
+
+template <typename Kind>
+QString WordOf(Kind value) {
+    return QMetaEnum::fromType<Kind>().valueToKey(value);
+}
 
 QString State(const QWidget& widget) { return widget.isEnabled() ? "" : " (grey)"; }
 
@@ -162,8 +168,10 @@ QStringList LinesOf(const QWidget& widget) {
         return {"page: " + text.match(page->toPlainText()).captured(),
                 QString("found: %1 at %2").arg(found.selectedText()).arg(found.selectionStart())};
     }
-    if (dynamic_cast<const Chart*>(&widget)) {
-        return {NameOf(widget) + ": " + widget.accessibleDescription().replace('\n', "; ")};
+    if (dynamic_cast<const Chart*>(&widget) || qobject_cast<const LookPreview*>(&widget)) {
+        const auto* heard = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
+        return {NameOf(widget) + " (" + WordOf(heard->role()) +
+                "): " + heard->text(QAccessible::Description).replace('\n', "; ")};
     }
     return {};
 }
@@ -216,6 +224,8 @@ void LookAtCommands(const QMainWindow& window, Sight& sight) {
         const bool tool = button->isVisible() && !button->accessibleName().isEmpty();
         if (tool) look(*button, '[' + NameOf(*button) + ']');
     }
+    const auto* table = window.findChild<TableView*>();
+    sight.lines << "pointer: " + WordOf(table->cursor().shape());
     sight.lines << "grey: " + grey.join(", ") << "ticked: " + ticked.join(", ");
 }
 

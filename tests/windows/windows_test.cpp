@@ -230,6 +230,7 @@ private Q_SLOTS:
             if (table[i].IsAct()) acts << &table[i];
         }
         QGuiApplication::clipboard()->clear();
+        QApplication::setKeyboardInputInterval(0);
         static bool failed = false;
         if (failed && qEnvironmentVariableIsSet("VARNELLO_FAIL_FAST")) QSKIP("another failed");
         Scene scene(acts);
