@@ -41,29 +41,6 @@ private Q_SLOTS:
         QCOMPARE(surface.pixelColor(0, 1023), QColor(Qt::black));
     }
 
-    void PaintsColoursByNumber_data() {
-        QTest::addColumn<int>("bgIndex");
-        QTest::addColumn<QColor>("colour");
-        QTest::newRow("default") << 1007 << QColor(0, 100, 0);
-        QTest::newRow("not offered but known") << 1025 << QColor(255, 99, 71);
-        QTest::newRow("custom") << 1000 << QColor(128, 0, 0);
-        QTest::newRow("no colour") << -1000 << QColor(Qt::black);
-        QTest::newRow("beyond the table") << 1026 << QColor(0, 100, 0);
-        QTest::newRow("nonsense") << -3 << QColor(0, 100, 0);
-    }
-
-    void PaintsColoursByNumber() {
-        QFETCH(int, bgIndex);
-        QFETCH(QColor, colour);
-        QImage surface(3, 300, QImage::Format_RGB32);
-        SetBG(surface, 1,
-              bgIndex == -1000
-                  ? BackgroundChoice{.bgIndex = 1000, .fade = false, .customColor = 1 << 24}
-                  : BackgroundChoice{.bgIndex = bgIndex, .fade = false});
-        QCOMPARE(surface.pixelColor(1, 0), colour);
-        QCOMPARE(surface.pixelColor(2, 299), colour);
-    }
-
     void TilesAreSeamlessAndCutAtTheEdge_data() {
         QTest::addColumn<int>("id");
         for (const LookGroup& group : TileGroups()) {
@@ -133,21 +110,6 @@ private Q_SLOTS:
                     }
                 }
             }
-        }
-    }
-
-    void WhatShowsOfACoveredCardTellsItsValue() {
-        // No two cards look alike in the strips that the fans leave free.
-        const CardPictures pictures(1);
-        for (const QRect strip : {QRect(0, 0, 71, 16), QRect(0, 0, 12, 96)}) {
-            std::set<QByteArray> seen;
-            for (int n = 1; n <= 52; ++n) {
-                const CardPictures::Part part = pictures.MainPic(n);
-                const QImage image = part.sheet->copy(strip.translated(part.rect.topLeft()));
-                seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
-                                       image.sizeInBytes()));
-            }
-            QCOMPARE(seen.size(), std::size_t{52});
         }
     }
 

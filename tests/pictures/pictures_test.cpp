@@ -1,5 +1,5 @@
 #include <QDir>
-#include <QListView>
+#include <QMenuBar>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyleFactory>
@@ -96,7 +96,7 @@ class PicturesTest : public QObject {
     QMap<QString, QStringList> expected_, seen_;
 
     void Compare(const QString& name, const QImage& picture, const QSize& cells = {16, 10}) {
-        QVERIFY2(!seen_.contains(name), qPrintable(name));
+        QVERIFY2(!seen_.contains(name) && !picture.isNull(), qPrintable(name));
         const QStringList rows = seen_[name] = Sketch(picture, cells);
         const QString difference = Difference(rows, expected_[name]);
         if (difference.isEmpty() || qEnvironmentVariableIsSet("VARNELLO_ACCEPT")) return;
@@ -162,6 +162,10 @@ private Q_SLOTS:
             {"a fade", {.bgIndex = 1003}},
             {"a colour", {.bgIndex = 1012, .fade = false}},
             {"a custom fade", {.bgIndex = 1000, .customColor = 0x40A0F0}},
+            {"a colour by hand", {.bgIndex = 1025, .fade = false}},
+            {"no colour", {.bgIndex = 1000, .fade = false, .customColor = 1 << 24}},
+            {"a colour beyond the table", {.bgIndex = 1026}},
+            {"nonsense", {.bgIndex = -3}},
             {"a tile", {.bgIndex = 71}}};
         for (const auto& [name, choice] : choices) {
             for (const QSize& size : {QSize(600, 260), QSize(260, 600)}) {
@@ -323,7 +327,8 @@ private Q_SLOTS:
         wins.Others[1].Moves = 180;
         FinishDialog won({"Freecell", {}, 52, 120, 600}, wins, nullptr);
         Compare("window of a win", won.grab().toImage(), {24, 16});
-        Compare("counters", OnScreen(menu.Counters()), {24, 2});
+        menu.Counters().ShowCounters(fixture.engine().counters().TimeTick());
+        Compare("menus", fixture.window.menuBar()->grab().toImage(), {80, 3});
         Splash splash;
         Compare("splash", splash.grab().toImage(), {24, 16});
     }
