@@ -29,4 +29,4 @@ until_true() {
 }
 
 # refused OUTPUT COUNT: whether so many results were reported as not written.
-refused() { [ "$(grep -c '^message: The result of this game could not be written' "$1")" = "$2" ]; }
+refused() { [ "$(grep -c '^message: The result of this game could not be written to the file /' "$1")" = "$2" ]; }

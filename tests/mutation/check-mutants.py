@@ -157,6 +157,9 @@ def failing(half, snapshot, everything):
             "cmake", "-D", f"PROGRAM={script}", "-D", f"SCRIPT={path}", "-D", f"FOLDER={data}",
             "-D", f"EXPECTED={path.with_suffix('.expected')}", "-P",
             ROOT / "tests/scripts/compare.cmake"]))
+    tests += [(f"faults.{name}", [ROOT / f"tests/faults/{name}.sh", script])
+              for name in ("clock", "full-disk", "full-file", "killed", "read-only", "removed",
+                           "two-copies")]
     if half == "desktop":
         display = ["env", "QT_QPA_PLATFORM=xcb", ROOT / "tools/on-virtual-display.sh"]
         program = snapshot / "bin/varnello"
@@ -165,9 +168,6 @@ def failing(half, snapshot, everything):
                   ("signals", [*display, ROOT / "tests/faults/signals.sh", program]),
                   ("", [*display, snapshot / "bin/varnello-x_test"])]
     else:
-        tests += [(f"faults.{name}", [ROOT / f"tests/faults/{name}.sh", script])
-                  for name in ("clock", "full-disk", "full-file", "killed", "read-only",
-                               "removed", "two-copies")]
         tests.append(("wins", [
             "cmake", "-D", f"PROGRAM={script}", "-D", f"FOLDER={data}", "-D",
             f"SCRIPTS={ROOT}/tests/wins", "-D",
