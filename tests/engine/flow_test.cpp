@@ -140,6 +140,23 @@ TEST_F(Flow, RewindingThatWinsStartsNoReplay) {
     EXPECT_FALSE(engine.replay().ForwardOn());
 }
 
+TEST_F(Flow, RedoThatWinsLeavesTheGameAloneThatFollows) {
+    for (const auto redo : {&Commands::Redo, &Commands::RedoAll}) {
+        StartHearts(1);
+        engine.data().Set(keys::Autoplay, 0);
+        engine.commands().Undo();
+        int logged = 0;
+        engine.life().OnWon([&] {
+            logged = engine.trans().GetTransID();
+            Start("Freecell");
+        });
+        (engine.commands().*redo)();
+        engine.life().OnWon({});
+        EXPECT_EQ(logged, 13) << "the win is seen before its move is in the log";
+        EXPECT_EQ(engine.trans().GetTransID(), 0) << "the next game begins with a move";
+    }
+}
+
 TEST_F(Flow, WonDialogShowsTheStoredFigures) {
     StartHearts();
     engine.data().CurTime = 3725;
