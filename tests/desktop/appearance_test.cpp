@@ -52,7 +52,7 @@ private Q_SLOTS:
         QFETCH(int, id);
         const QSize size = TilePicture(1, {.bgIndex = id}).size();
         QImage surface(size * 2 + QSize(7, 5), QImage::Format_RGB32);
-        QVERIFY(TileFill(surface, 1, id));
+        QVERIFY2(TileFill(surface, 1, id), "an offered tile isn't there");
         // How much neighbouring rows or columns differ: across the seam not more than elsewhere.
         const auto difference = [&](QPoint step, int at) {
             double sum = 0;
@@ -77,7 +77,7 @@ private Q_SLOTS:
         for (const double ratio : {0.75, 1.5}) {
             QImage dense((QSizeF(size) * ratio * 2).toSize(), QImage::Format_RGB32);
             dense.fill(Qt::magenta);
-            QVERIFY(TileFill(dense, ratio, id));
+            QVERIFY2(TileFill(dense, ratio, id), "no tile on a dense screen");
             for (int y = 0; y < dense.height(); ++y) {
                 for (int x = 0; x < dense.width(); ++x) {
                     QVERIFY2(dense.pixel(x, y) != QColor(Qt::magenta).rgb(), "a gap between tiles");

@@ -28,7 +28,8 @@ private Q_SLOTS:
         fixture.engine().data().Set(keys::RangeIndex, 1);
         for (int i = 0; i < 300; ++i) {
             const NumberDialog dialog(fixture.engine(), nullptr);
-            QVERIFY(fixture.engine().choosing().IsChoosable(dialog.number()->text().toStdString()));
+            QVERIFY2(fixture.engine().choosing().IsChoosable(dialog.number()->text().toStdString()),
+                     "the number that is proposed is refused");
         }
     }
 
@@ -75,7 +76,8 @@ private Q_SLOTS:
         QVERIFY(fixture.engine().players().EnterPlayer("Player1", odd));
         fixture.Start("Freecell");
         // In a caption the toolkit takes "[*]" for its own mark, and a doubled one as text.
-        QTRY_VERIFY(fixture.window.windowTitle().contains("[<h1>a & b [*][*] %1 &x]"));
+        QTRY_VERIFY2(fixture.window.windowTitle().contains("[<h1>a & b [*][*] %1 &x]"),
+                     "the title spells the name otherwise");
         int found = 0;
         WhenOpen<QDialog>([&](QDialog& dialog) {
             for (const QLabel* label : dialog.findChildren<QLabel*>()) {

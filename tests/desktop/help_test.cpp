@@ -54,7 +54,8 @@ private Q_SLOTS:
         QVERIFY2(width("small:Penguin") * 2 <= width("preview:Penguin"), "a page's small picture");
         for (const int columns : {1, 2, 4}) {
             help->resize(210 + columns * 170, 600);
-            QVERIFY(help->browser()->horizontalScrollBar()->maximum() == 0);
+            QVERIFY2(help->browser()->horizontalScrollBar()->maximum() == 0,
+                     "the grid is too wide");
             QVERIFY2(help->browser()->toHtml().contains(QRegularExpression(
                          QStringLiteral("(<td[^>]*>(?:(?!<t[dr]).)*){%1}</tr>").arg(columns),
                          QRegularExpression::DotMatchesEverythingOption)),

@@ -60,7 +60,7 @@ public:
             window.motion().Finish();
             Drag(Top(Cell::Home, i), At(engine().table().PicRes[std::size_t(i)].Left + 532, 1000));
         }
-        QVERIFY(window.motion().Showing());
+        QVERIFY2(window.motion().Showing(), "no card flies");
         if (moment == Flight) return;
         if (moment == UndoAll) return Key(Qt::CTRL | Qt::Key_C);
         if (moment == Replay) {
@@ -68,13 +68,13 @@ public:
             Key(Qt::CTRL | Qt::Key_C);
             window.motion().Finish();
             Key(Qt::SHIFT | Qt::Key_F3);
-            QTRY_VERIFY(window.motion().Showing());
+            QTRY_VERIFY2(window.motion().Showing(), "nothing is replayed");
             return;
         }
         window.motion().Finish();
         engine().data().CurMoves = 0;
         Key(Qt::Key_F7);
-        QVERIFY(window.motion().Showing());
+        QVERIFY2(window.motion().Showing(), "no cascade");
         if (moment == Breath) window.motion().Finish();
     }
     int Seen() const { return int(window_.motion().Scene().VisibleCards().size()); }
@@ -250,9 +250,9 @@ private Q_SLOTS:
         };
         paced.Key(Qt::CTRL | Qt::Key_Z);
         QCOMPARE(paced.engine().trans().GetTransID(), 2);
-        QVERIFY(paced.window.motion().Showing());
+        QVERIFY2(paced.window.motion().Showing(), "the flight is over");
         QVERIFY2(key(true), "a repetition would be taken for another command");
-        QVERIFY(paced.window.motion().Showing());
+        QVERIFY2(paced.window.motion().Showing(), "the flight is over");
         QVERIFY2(!key(false), "a key pressed anew counts for nothing");
         QVERIFY2(!paced.window.motion().Showing(), "a real press finishes the flight");
         QVERIFY2(!key(true), "a repetition after the flight counts");

@@ -200,7 +200,7 @@ private Q_SLOTS:
                 player.window.motion().Finish();
                 if (player.engine().life().phase() == Phase::Won) return;
                 const std::string line = SomeLine(player, below);
-                QVERIFY(player.Do(line));
+                QVERIFY2(player.Do(line), line.c_str());
                 script.Run(line);
                 const std::string told = player.Told();
                 if (player.engine().life().phase() == Phase::Won) return;

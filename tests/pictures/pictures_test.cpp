@@ -277,9 +277,10 @@ private Q_SLOTS:
 
     void Table() {
         WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
+        fixture.StartWithoutAutoplay("Freecell", 6);
         const auto compare = [&](const QString& name) {
-            QVERIFY(fixture.ScreenIsTrue());
+            QVERIFY2(fixture.ScreenIsTrue(),
+                     qPrintable(name + ": the screen shows something else"));
             Compare(name, OnScreen(fixture.window.table()), {48, 32});
         };
         compare("a deal");
@@ -289,6 +290,10 @@ private Q_SLOTS:
         compare("a card over a reserve");
         fixture.Move(fixture.At(9000, 9000));
         compare("a card over nothing");
+        QTest::keyClick(&fixture.window, Qt::Key_Escape);
+        fixture.Press(fixture.CentreOf(15) - QPoint(0, 40));  // with another on it
+        fixture.Move(fixture.At(9000, 9000));
+        compare("two cards over nothing");
         QTest::keyClick(&fixture.window, Qt::Key_Escape);
         compare("the deal again");
         fixture.window.table().ZoomBy(1);
