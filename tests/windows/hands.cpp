@@ -19,6 +19,7 @@
 namespace varnello::test {
 namespace {
 
+constexpr int kGrip = 150;         // twips from a card's corner, where no other card lies
 constexpr int kNeverOver = 60000;  // milliseconds that letters count for a search
 
 /// A game of five cards, four of which start the foundations: the fifth one wins it.
@@ -228,6 +229,15 @@ QString Do(const QString& act, WindowFixture& fixture) {
         const QPoint at =
             top == kNoCard ? fixture.At(slot.Left + 500, slot.Top + 700) : fixture.CentreOf(top);
         QTest::mouseClick(&fixture.window.table(), Qt::LeftButton, {}, at);
+        return {};
+    }
+    if (verb == "lay") {
+        const QStringList words = what.split(' ');
+        const KesCard& card = fixture.Card(PicID(words[0].toInt()));
+        const QPoint to = fixture.At(words[1].toInt() + kGrip, words[2].toInt() + kGrip);
+        fixture.Press(fixture.At(card.Left + kGrip, card.Top + kGrip));
+        fixture.Move(to);
+        fixture.Release(to);
         return {};
     }
     if (verb == "point") {

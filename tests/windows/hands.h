@@ -24,6 +24,7 @@ namespace varnello::test {
 ///     close                       the close box of the window in front
 ///     file NAME, colour NAME      in the toolkit's own dialogs
 ///     drop PILE SLOT              the last card of a pile of the tableau onto a reserve slot
+///     lay CARD LEFT TOP           its corner at these twips, with what lies on it
 ///     point PILE|stock            moves the mouse onto the last card
 ///     wheel up|down [Ctrl]        over the table
 ///     stock                       a click on the stock
