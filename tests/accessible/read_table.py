@@ -177,6 +177,22 @@ def play(show):
     key("ctrl+z")
     until("a card back", lambda: len(heard) == 2 and " was taken back to Tableau " in heard[1])
 
+    # Many moves at once are summed up.
+    for reserve in (8, 9):
+        heard.clear()
+        drag(top_card(table[0]), table[reserve])
+        until("a card more in a cell", lambda: heard)
+    heard.clear()
+    key("ctrl+c")
+    until("all taken back", lambda: heard == ["6 cards were taken back."])
+    key("ctrl+v")
+    until("all once more", lambda: heard[1:] == [
+        f"2 cards moved. {CASCADE} cards went up to the foundations."])
+    key("ctrl+F1")
+    until("the end", lambda: heard[2:] == ["The game is over."])
+    key("F2")
+    until("the next deal", lambda: re.fullmatch("Freecell, game number .*, is dealt.", heard[3]))
+
     # The menus by key, and the help as a window of its own.
     key("F10")
     until("an open menu",
