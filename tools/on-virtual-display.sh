@@ -23,10 +23,15 @@ done
 DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 unset WAYLAND_DISPLAY
-openbox --sm-disable >/dev/null 2>&1 &
-manager=$!
-for _ in $(seq 100); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+managed() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+# On a loaded machine it may end at once; without it no window ever gets the keyboard.
+for _ in $(seq 200); do
+    managed && break
+    if [ -z "$manager" ] || ! kill -0 "$manager" 2>/dev/null; then
+        openbox --sm-disable >"$folder/manager" 2>&1 &
+        manager=$!
+    fi
     sleep 0.05
 done
+managed || { echo "The window manager doesn't start:" >&2; cat "$folder/manager" >&2; exit 1; }
 "$@"
