@@ -263,7 +263,8 @@ void Look(QWidget& window, Sight& sight) {
         return;
     }
     if (auto* files = qobject_cast<QFileDialog*>(&window)) {
-        sight.lines << title + kBar + files->selectedFiles().value(0).section('/', -1);
+        sight.lines << title + kBar + WordOf(files->acceptMode()) + kBar +
+                           files->selectedFiles().value(0).section('/', -1);
         return;
     }
     if (auto* colours = qobject_cast<QColorDialog*>(&window)) {

@@ -106,7 +106,11 @@ private:
         } else if (++looks_ < 2) {
             return Again();  // what is to be painted yet is painted by then
         }
+        // A picture that is hidden for a while is compared with what it was.
+        auto pictures = before_.pictures;
+        pictures.insert(now.pictures);
         before_ = now;
+        before_.pictures = pictures;
         looks_ = 0;
         ++at_;
         QTimer::singleShot(0, this, &Scene::Act);

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# command_line.sh PROGRAM: what the program answers without opening a window.
+set -euo pipefail
+program=$1
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+export LC_ALL=C LANGUAGE=C HOME=$folder XDG_CONFIG_HOME=$folder XDG_DATA_HOME=$folder
+
+# answers STATUS OUTPUT ERRORS WORD...: patterns of the shell for what it writes.
+answers() {
+    local status=0
+    "$program" "${@:4}" >"$folder/out" 2>"$folder/err" || status=$?
+    # shellcheck disable=SC2053
+    [ "$status" = "$1" ] && [[ $(cat "$folder/out") == $2 ]] && [[ $(cat "$folder/err") == $3 ]] && return
+    echo "$program ${*:4}: status $status, it said:" >&2
+    cat "$folder/out" "$folder/err" >&2
+    exit 1
+}
+
+answers 0 'Varnello [0-9].[0-9]' '' --version
+answers 0 $'Varnello plays patience card games.\n\nusage: varnello *' '' --help
+answers 1 '' $'Varnello can\'t start: there is no graphical display. The toolkit says:\n  *display*'
+DISPLAY=:nonsense answers 1 '' \
+    $'Varnello can\'t start: the toolkit can\'t use the display. It says:\n  *display*'
+QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--nonsense"; *' --nonsense
+[ ! -e "$folder/Varnello" ] || { echo "An answer leaves files behind." >&2; exit 1; }
