@@ -1,7 +1,5 @@
-#include <algorithm>
 #include <set>
 
-#include "board_checks.h"
 #include "hand_board.h"
 
 // What lies on the table after a deal. The won games tell whether the cards of each game lie right.
@@ -15,57 +13,8 @@ protected:
         Play(row);
         Start("Made Up", 5);
     }
-    /// The foundations: the first card, or nothing, and the slot's picture if there is one.
-    std::string Foundations() const {
-        std::string text;
-        for (std::size_t pile = 0; pile < 4; ++pile) {
-            const PicID id = engine.array().GetPicID(Cell::Goal, static_cast<int>(pile), 0);
-            const KesEmpty& slot = engine.table().PicRight[pile];
-            if (id != kNoCard) text += TextOf(engine.table().Card(id));
-            text += slot.Visible ? std::to_string(slot.Picture) + ' ' : "- ";
-        }
-        return text;
-    }
     GameRow row = Freecells();
 };
-
-TEST_F(Deals, OfTheCatalogueAreWholeAndShowASlotForEachPile) {
-    for (const GameRow& game : kCatalogue) {
-        for (const double number : {2.0, 32.0, 4711.0, 999'999'999'999'999.0}) {
-            SCOPED_TRACE(std::string(game.Name) + ' ' + std::to_string(number));
-            Start(std::string(game.Name), number);
-            EXPECT_EQ(BoardFault(engine.array(), engine.table(), engine.games()), "");
-            EXPECT_EQ(PictureFault(engine), "");
-            EXPECT_FALSE(engine.trans().UndoPossible());
-            const auto shown = [](const auto& slots) {
-                return std::count_if(slots.begin(), slots.end(), [](auto& s) { return s.Visible; });
-            };
-            EXPECT_EQ(shown(engine.table().PicHome), engine.games().Piles(Cell::Home));
-            EXPECT_EQ(shown(engine.table().PicRes), engine.games().Piles(Cell::Res));
-            EXPECT_EQ(shown(engine.table().PicRight), engine.games().Piles(Cell::Goal));
-            EXPECT_EQ(shown(engine.table().PicWaste), engine.games().Piles(Cell::Waste));
-            EXPECT_EQ(shown(engine.table().PicStock),
-                      game.Stock.StockNum == StockNum::None ? 0 : 1);
-        }
-    }
-}
-
-TEST_F(Deals, StartsOfTheFoundations) {
-    const struct {
-        int type, cards;
-        const char* foundations;
-    } cases[] = {
-        {1, 3, "2H1 2S1 2D1 1 "},    {12, 4, "KH12 KS12 KD12 KC12 "}, {5, 0, "- - - - "},
-        {13, 0, "13 13 13 13 "},     {14, 3, "AH0 AS0 KD12 KC12 "},   {14, 4, "AH0 AS0 KD12 KC12 "},
-        {15, 4, "AH0 2S1 3D2 4C3 "},
-    };
-    for (const auto& c : cases) {
-        row.Goal.GoalType = static_cast<GoalType>(c.type);
-        row.Goal.Cards = I16(c.cards);
-        Deal();
-        EXPECT_EQ(Foundations(), c.foundations) << c.type;
-    }
-}
 
 TEST_F(Deals, FirstCardMaySetTheBase) {
     std::set<int> bases;

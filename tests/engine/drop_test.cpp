@@ -21,14 +21,6 @@ TEST(Drops, GoWhereTheRulesAllow) {
                  {"g0 AH 2H", "2H>r0", "g0 AH, r0 2H"}});
 }
 
-TEST(Drops, OnEmptyPilesAreUpToTheGame) {
-    GameRow row = Freecells();
-    row.Home.EmptyNum = kKing;
-    ExpectPlays(row, {{"t0 2C KH QS JH", "QS>t1 KH>t2", "t0 2C, t2 KH QS JH"}});
-    row.Home.EmptyNum = kNoCardAtAll;
-    ExpectPlays(row, {{"t0 2C KH", "KH>t1"}});
-}
-
 TEST(Drops, OnFoundationsAreUpToTheGame) {
     GameRow row = Freecells();
     row.Goal.AK = 1;

@@ -5,47 +5,6 @@
 namespace varnello::test {
 namespace {
 
-using At = std::pair<double, double>;
-
-At Stands(HandBoard& board, std::string_view card) {
-    return {board.Card(card).Left, board.Card(card).Top};
-}
-
-TEST(Gestures, GripPointStaysUnderThePointer) {
-    HandBoard board(Freecells(), "t0 KH QS");
-    const PicID queen = board.Id("QS");
-    board.gestures.MouseDown(queen, 100.5, 201.5);  // ties to even: 100 and 202
-    board.gestures.MouseMove(queen, 140, 232);
-    EXPECT_EQ(Stands(board, "QS"), At(1040, 3280));
-    board.gestures.MouseMove(queen, 100.5, 203.5);  // 1040.5 and 3281.5
-    EXPECT_EQ(Stands(board, "QS"), At(1040, 3282));
-    board.Press("KH");
-    board.Drag("KH", 1e9, 32700);
-    EXPECT_EQ(Stands(board, "KH"), At(32767, 32700));
-    EXPECT_EQ(Stands(board, "QS"), At(32767, 32767));
-}
-
-TEST(Gestures, CarriedCardsFanOutInFront) {
-    HandBoard board(Freecells(), "t0 KH QS JH, t1 2C");
-    board.Press("KH");
-    EXPECT_EQ(board.table.VisibleCards(), (std::vector<PicID>{0, 3, 1, 2}));
-    board.Drag("KH", 5000, 8000);
-    EXPECT_EQ(board.table.VisibleCards(), (std::vector<PicID>{3, 0, 1, 2}));
-    EXPECT_EQ(Stands(board, "KH"), At(5000, 8000));
-    EXPECT_EQ(Stands(board, "JH"), At(5000, 8500));
-    EXPECT_EQ(board.Text(), "t0 KH QS JH, t1 2C") << "the board doesn't change before the drop";
-    board.Release("KH");
-    EXPECT_EQ(Stands(board, "JH"), At(1000, 3500));
-    for (const PileOrder order : {PileOrder::RightRows, PileOrder::RightColumns}) {
-        GameRow row = Freecells();
-        row.Home.PileOrder = order;
-        HandBoard right(row, "t0 KH QS JH");
-        right.Press("KH");
-        right.Drag("KH", 15000, 10000);
-        EXPECT_EQ(Stands(right, "JH"), At(15360, 10000));
-    }
-}
-
 // A replay's tick, a shortcut or a click on the stock may move cards while the mouse holds one. The
 // board must stay whole, whatever becomes of the drag.
 TEST(HeldCards, MayBeMovedCoveredOrUncoveredMeanwhile) {

@@ -14,13 +14,6 @@ protected:
         }
         out = {};
     }
-    /// Which records, from 0 on, go on in the next one.
-    std::string Groups() const {
-        std::string groups;
-        for (int i = 0; i <= trans.TransTop(); ++i)
-            groups += trans.Record(I16(i)).InGroup ? '1' : '0';
-        return groups;
-    }
 };
 
 TEST_F(Log, GrowsBeyondTheCounterWithoutLosingARecord) {
@@ -38,32 +31,6 @@ TEST_F(Log, GrowsBeyondTheCounterWithoutLosingARecord) {
     Do("redoall");
     EXPECT_FALSE(trans.RedoPossible());
     EXPECT_EQ(Text(), "t3 9C, r0 9H");
-}
-
-TEST_F(Log, BracketJoinsItsRecords) {
-    trans.StartMulti();
-    trans.EndMulti();  // an empty one joins nothing
-    Shuttle(1);
-    trans.StartMulti();
-    Shuttle(3);
-    trans.EndMulti();
-    Shuttle(1);
-    EXPECT_EQ(Groups(), "001100");
-    Do("undo undo");
-    EXPECT_EQ(trans.GetTransID(), 1);
-}
-
-TEST_F(Log, CardBelowClosesBeforeTheMovedCardFlies) {
-    Lay("t0 -2C QH");
-    Do("QH>r2");
-    int closed = 0;
-    surface.onFlight = [&] { closed += surface.scene.Card(Id("2C")).FaceMode == FaceMode::Closed; };
-    int speed = 3;
-    trans.Undo(speed);
-    EXPECT_EQ(closed, 1);
-    EXPECT_EQ(Card("QH").Top, 3060);
-    Do("redo");
-    EXPECT_EQ(Card("2C").FaceMode, FaceMode::Open);
 }
 
 }  // namespace

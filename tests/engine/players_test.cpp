@@ -62,21 +62,6 @@ TEST_F(Choosing, DamagedFavoritesAreSkippedAndTheCountHasALimit) {
     EXPECT_EQ(engine.favorites().FavTop(), 32767);
 }
 
-TEST_F(Choosing, RecentGamesComeNewestFirst) {
-    const auto recent = [&] {
-        std::string list;
-        for (std::int16_t i = 1; i <= kMaxRecent; ++i) list += data.GetRecent(i) + '|';
-        return list;
-    };
-    for (const char* game : {"A", "B", "A", "A", "C"}) data.SetRecent(game);
-    EXPECT_EQ(recent(), "C|A|B|A||");
-    EXPECT_EQ(data.RecentCount(), 4);
-    for (const char* game : {"D", "a", "A"}) data.SetRecent(game);
-    EXPECT_EQ(recent(), "A|a|D|C|A|");
-    engine.choosing().ClearRecentGames();
-    EXPECT_EQ(recent(), "|||||");
-}
-
 TEST_F(Players, AreTwentyAtMostAndToldApartByCase) {
     for (int i = 2; i <= 20; ++i) {
         EXPECT_TRUE(engine.players().MayAddPlayer());
