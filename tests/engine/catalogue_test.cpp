@@ -163,5 +163,15 @@ TEST(Catalogue, GamesKeepTheirRules) {
     EXPECT_EQ(count, 35);
 }
 
+TEST(Catalogue, NamesAndIdsBelongTogether) {
+    const TestTable table;
+    const cData& data = table.engine.data();
+    for (int id = 1; id <= TotalGames(); ++id) {
+        EXPECT_EQ(data.GetGameID(data.GetGName(I16(id))), id);
+    }
+    EXPECT_EQ(data.GetGameID("freecell"), 0);
+    for (const int id : {0, -1, TotalGames() + 1}) EXPECT_EQ(data.GetGName(I16(id)), "");
+}
+
 }  // namespace
 }  // namespace varnello::test
