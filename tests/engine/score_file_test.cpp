@@ -124,6 +124,14 @@ TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
     engine.score().OpenAllScore();
     ASSERT_EQ(engine.score().ScoreTop(), 2) << "what couldn't be written was kept";
     EXPECT_EQ(engine.score().GetScore(1).GameNo, GameNumber::Number(5));
+    std::filesystem::remove(ScoreFile());
+    std::filesystem::create_directory(ScoreFile());
+    Start("Freecell", 7);
+    engine.commands().CloseGame();
+    std::filesystem::remove(ScoreFile());
+    EXPECT_TRUE(engine.players().EnterPlayer("Player1", "Ann"));
+    engine.Leave();
+    EXPECT_EQ(ReadLines(ScorePath(engine.data(), "Ann")).size(), 1U) << "written at the end";
 }
 
 TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {
@@ -137,6 +145,10 @@ TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {
     EXPECT_NE(Heard().find("Player1.sre"), std::string::npos);
     open();
     EXPECT_EQ(Heard(), "") << "told once";
+    StatExport written = engine.results().PrepareExport({});
+    written.Unread = {ScoreFile()};
+    engine.results().TellExport({}, written);
+    EXPECT_NE(Heard().find("Player1.sre"), std::string::npos) << "others read the export";
     EXPECT_FALSE(AppendLine(ScoreFile(), "x"));
     std::filesystem::remove(ScoreFile());
     std::filesystem::create_symlink("/dev/zero", ScoreFile());
