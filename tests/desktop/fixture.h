@@ -59,16 +59,23 @@ inline QImage OnScreen(const QWidget& part) {
 }
 
 /// A main window whose settings live in memory and whose clock the test moves; score files go to a
-/// folder of the test's own. Flights aren't paced.
+/// folder of the test's own. Flights aren't paced, the
+/// counters stand.
 class WindowFixture {
 public:
+    static constexpr int kNever = 1 << 30;  // milliseconds
+
     WindowFixture() : window({settings, clock, sounds, std::filesystem::path(Folder())}) {
         window.motion().SetPaced(false);
         window.SetBreath(0);
+        window.SetBeat(kNever, 20);
         window.resize(1100, 830);
         window.show();
         (void)QTest::qWaitForWindowExposed(&window);
     }
+
+    /// What the counters do every half second; here it's done when a test says so.
+    void Beat() { window.menu().Counters().ShowCounters(engine().counters().TimeTick()); }
 
     std::string Folder() const { return folder.path().toStdString() + "/data"; }
     varnello::Engine& engine() { return window.engine(); }

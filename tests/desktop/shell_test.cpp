@@ -97,6 +97,7 @@ private Q_SLOTS:
             for (const int x : {2980, 4080}) {
                 fixture.Drag(fixture.Top(Cell::Home, x > 3000), fixture.At(x + 532, 200 + 720));
             }
+            fixture.window.SetBeat(WindowFixture::kNever, 500);
             const Replay& replay = fixture.engine().replay();
             QAction* stop = fixture.window.menu().mReplay(ReplayItem::Stop);
             QAction* back = fixture.window.menu().mReplay(ReplayItem::Back);

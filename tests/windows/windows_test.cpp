@@ -90,6 +90,9 @@ private:
         const Sight now = Now();
         const bool rests = now == last_;
         last_ = now;
+        // The counters go on when the act is over, so that no result depends on the moment.
+        resting_ = resting_ || rests;
+        if (resting_) fixture_.Beat();
         const QStringList changes = Changes(before_, now);
         Line& line = *acts_[at_];
         if (qEnvironmentVariableIsSet("VARNELLO_ACCEPT")) {
@@ -103,7 +106,7 @@ private:
             patience = 500;  // the first failure counts; others needn't take as long
             wrong = Difference(line, changes);
             return End();
-        } else if (++looks_ < 2) {
+        } else if (++looks_ < 3) {
             return Again();  // what is to be painted yet is painted by then
         }
         // A picture that is hidden for a while is compared with what it was.
@@ -112,6 +115,7 @@ private:
         before_ = now;
         before_.pictures = pictures;
         looks_ = 0;
+        resting_ = false;
         ++at_;
         QTimer::singleShot(0, this, &Scene::Act);
     }
@@ -196,6 +200,7 @@ private:
     qsizetype at_ = 0;
     Sight before_, last_;
     int looks_ = 0;
+    bool resting_ = false;
     QElapsedTimer time_, settled_;
     bool over_ = false;
 };

@@ -31,9 +31,8 @@ namespace {
 constexpr int kToolbarHeight = 25;        // pixels of the strip along the top
 constexpr QSize kRestoredSize(673, 437);  // client area of the restored window
 constexpr QSize kLeastSize(400, 300);
+constexpr int kBeat = 500;      // milliseconds
 constexpr int kMenuPoll = 100;  // milliseconds
-constexpr int kCounterPoll = 500;
-constexpr int kReplayStep = 500;
 constexpr int kTryAgain = 50;
 
 }  // namespace
@@ -92,8 +91,7 @@ void MainWindow::AddZoomKeys() {
 }
 
 void MainWindow::StartTimers() {
-    tmrForward_.setInterval(kReplayStep);
-    tmrBackward_.setInterval(kReplayStep);
+    SetBeat(kBeat, kBeat);
     connect(&tmrMain_, &QTimer::timeout, this, &MainWindow::OnMainTimer);
     connect(&tmrTime_, &QTimer::timeout, this,
             [this] { menu_->Counters().ShowCounters(engine_->counters().TimeTick()); });
@@ -102,7 +100,13 @@ void MainWindow::StartTimers() {
     breath_.setSingleShot(true);
     connect(&breath_, &QTimer::timeout, this, &MainWindow::ShowFinish);
     tmrMain_.start(kMenuPoll);
-    tmrTime_.start(kCounterPoll);
+    tmrTime_.start();
+}
+
+void MainWindow::SetBeat(int counters, int replay) {
+    tmrTime_.setInterval(counters);
+    tmrForward_.setInterval(replay);
+    tmrBackward_.setInterval(replay);
 }
 
 void MainWindow::OnMainTimer() {

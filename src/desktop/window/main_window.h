@@ -50,6 +50,8 @@ public:
     Motion& motion() { return motion_; }
     /// How long a won game rests before its dialog opens, in milliseconds.
     void SetBreath(int milliseconds) { breathTime_ = milliseconds; }
+    /// How often the counters and a replay go on, in milliseconds.
+    void SetBeat(int counters, int replay);
     const MainMenu& menu() const { return *menu_; }
     const Toolbar& toolbar() const { return *toolbar_; }
     SelectDialog* select() const { return select_; }
