@@ -187,6 +187,9 @@ TEST_F(Reports, LogPassesByCalendarAge) {
         EXPECT_EQ(found, passes) << date;
     }
     Write({Game(-7), Game(-3), Game(-5)});
+    EXPECT_EQ(NewestOf(engine.score().List()), 2U) << "of one moment the last one";
+    const ReportRow odd = RowOf(Game(1, 1, 1, 1, "odd"), 1, kLogColumns, engine.dates());
+    EXPECT_LT(odd[7].Value, 0) << "what is no date stands ahead of all dates";
     const std::vector<std::uint32_t> all{0, 1, 2};
     EXPECT_EQ(TotalsOf(engine.score().List(), all).BestScore, -3);
 }
@@ -237,6 +240,10 @@ TEST_F(Reports, AStoppedExportChangesNothing) {
     EXPECT_EQ(ReadFile(target), "old");
     EXPECT_FALSE(std::filesystem::exists(target.string() + ".part"));
     Progress progress;
+    std::filesystem::create_symlink("/dev/full", target.string() + ".part");
+    EXPECT_FALSE(report.Run(progress));
+    EXPECT_FALSE(is_symlink(std::filesystem::path(target.string() + ".part")));
+    progress.Done = 0;
     EXPECT_TRUE(report.Run(progress));
     EXPECT_GT(ReadFile(target).size(), 1000U);
     EXPECT_LE(progress.Done, report.Whole());
@@ -252,11 +259,11 @@ TEST_F(Reports, WinsInARowAndAPlaceAmongThem) {
     EXPECT_EQ(engine.score().PlayerStreak("Player1"), (Streak{2, 2})) << "the best one is on";
     EXPECT_EQ(engine.score().PlayerStreak("Player1", "Freecell"), (Streak{3, 3}));
     EXPECT_EQ(engine.score().PlayerStreak("Player1", "Penguin"), (Streak{0, 0}));
-    Write({won(10), won(20), Game(1, 1, 5, 0), won(15), won(30)});
+    Write({won(10), won(20), Game(1, 1, 5, 0), won(15), won(30), won(30)});
     ScoreRecord last = won(30);
     last.Player = "Player1";
     EXPECT_EQ(PlaceText(OwnWinsOf(engine.score().List(), last))->English(),
-              "Your 4th fastest of 4");
+              "Your 4th fastest of 5");
     last.Time = 31;
     EXPECT_FALSE(PlaceText(OwnWinsOf(engine.score().List(), last))) << "it isn't booked";
     for (const auto& [place, text] : {std::pair{1, "Your fastest of 30"},

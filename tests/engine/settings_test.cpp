@@ -11,7 +11,7 @@ protected:
 
 TEST_F(Settings, NonsenseCountsAsTheDefault) {
     for (const char* nonsense :
-         {"", "x", "5.0", "0x10", "32768", "-32769", "--5", "+-5", " 5", "5 "}) {
+         {"", "-", "x", "5.0", "0x10", "32768", "-32769", "--5", "+-5", " 5", "5 "}) {
         store.Write("Data", "UndoSpeed", nonsense);
         EXPECT_EQ(data.Get(keys::UndoSpeed), 5) << nonsense;
     }
