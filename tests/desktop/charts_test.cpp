@@ -118,6 +118,7 @@ private Q_SLOTS:
         row("nothing won", 0, {.series = kShare, .rows = {{0, 3}}}, 0.51, 0.1, "Lost : 3 (100%)");
         const ChartTable totals{.series = kFigures, .rows = {{0, 123456, 176525}}};
         row("first bar", 1, totals, 0.4, 0.2, "Score : 0");
+        row("above the bars", 1, totals, 0.5, 0.01, "");
         row("middle bar", 1, totals, 0.9, 0.5, "Moves : 123,456");
         row("hours", 1, totals, 0.1, 0.8, "Time : 49:02:05");
         ChartTable named{.series = kPlayedWon, .rows = {{3, 1}, {}, {5, kNoValue}}};

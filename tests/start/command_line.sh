@@ -24,4 +24,5 @@ answers 1 '' $'Varnello can\'t start: there is no graphical display. The toolkit
 DISPLAY=:nonsense answers 1 '' \
     $'Varnello can\'t start: the toolkit can\'t use the display. It says:\n  *display*'
 QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--nonsense"; *' --nonsense
+QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--help"; *' --help me
 [ ! -e "$folder/Varnello" ] || { echo "An answer leaves files behind." >&2; exit 1; }
