@@ -58,6 +58,12 @@ inline QImage OnScreen(const QWidget& part) {
         .toImage();
 }
 
+/// Whether the screen shows what the part would look like if it were painted afresh.
+inline bool IsPainted(QWidget& part) {
+    return OnScreen(part).convertToFormat(QImage::Format_RGB32) ==
+           part.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 /// A main window whose settings live in memory and whose clock the test moves; score files go to a
 /// folder of the test's own. Flights aren't paced, the
 /// counters stand.
@@ -117,11 +123,7 @@ public:
     }
     /// Whether the screen shows what the table would look like if it were painted afresh.
     bool ScreenIsTrue() {
-        varnello::TableView& table = window.table();
-        const auto isTrue = [&] {
-            return OnScreen(table).convertToFormat(QImage::Format_RGB32) ==
-                   table.grab().toImage().convertToFormat(QImage::Format_RGB32);
-        };
+        const auto isTrue = [this] { return IsPainted(window.table()); };
         return QTest::qWaitFor(isTrue, 1000);  // a drag is painted with the next frame
     }
     /// The lines of the first player's score file, without their dates.

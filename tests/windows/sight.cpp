@@ -278,6 +278,10 @@ void Look(QWidget& window, Sight& sight) {
     for (const auto* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window) || BelongsToAnother(*widget, window)) continue;
         for (const QString& line : LinesOf(*widget)) sight.lines << title + kBar + line;
+        const auto* list = qobject_cast<const QAbstractItemView*>(widget);
+        if (list && list->model() && !IsPainted(*list->viewport())) {
+            sight.lines << title + kBar + NameOf(*list) + ": the screen shows something old";
+        }
         const auto* label = qobject_cast<const QLabel*>(widget);
         if (dynamic_cast<const Chart*>(widget) || qobject_cast<const LookPreview*>(widget) ||
             (label && !label->pixmap().isNull() && !NameOf(*label).isEmpty())) {
