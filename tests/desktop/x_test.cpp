@@ -10,6 +10,8 @@ using namespace varnello;
 
 namespace {
 
+constexpr int kPatience = 60000;  // milliseconds: others may keep the machine busy
+
 /// Only sends events to the X server; what they set off happens in the event loop.
 void xdotool(const QStringList& words) { QProcess::execute("xdotool", words); }
 
@@ -84,7 +86,7 @@ private Q_SLOTS:
         MainWindow window({settings, clock, sounds, data});
         window.motion().SetPaced(qEnvironmentVariableIsSet("VARNELLO_PACED"));
         window.showMaximized();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY2(QTest::qWaitForWindowActive(&window, kPatience), "the window isn't active");
 
         if (zoom != 0) window.table().ZoomBy(zoom);
         Engine& engine = window.engine();
@@ -111,11 +113,13 @@ private Q_SLOTS:
             if (words[0] == "drop") player.Drop(number(1), number(2), number(3));
             if (words[0] == "press") player.Click(number(1));
             if (words[0] == "drop" || words[0] == "press") {
-                QTRY_VERIFY2(engine.trans().TransTop() > before, command.c_str());
+                QTRY_VERIFY2_WITH_TIMEOUT(engine.trans().TransTop() > before, command.c_str(),
+                                          kPatience);
             }
         }
-        QTRY_VERIFY2(shown, "the won dialog didn't open");
-        QTRY_VERIFY2(!QApplication::activeModalWidget(), "Escape doesn't close the won dialog");
+        QTRY_VERIFY2_WITH_TIMEOUT(shown, "the won dialog didn't open", kPatience);
+        QTRY_VERIFY2_WITH_TIMEOUT(!QApplication::activeModalWidget(),
+                                  "Escape doesn't close the won dialog", kPatience);
         const auto lines = ReadLines(data / "Player1.sre");
         QCOMPARE(lines.size(), std::size_t{1});
         QVERIFY2(lines[0].ends_with(",1"), "booked as lost");

@@ -28,22 +28,5 @@ TEST_F(Shuffle, GoesByTheNumbersValue) {
     EXPECT_NE(Order(32), Order(33));
 }
 
-TEST_F(Shuffle, SuitTypesFoldThePackSuits) {
-    const auto suits = [&](SuitType type) {
-        GameRow row = *FindGame("Zodiac");
-        row.Home.SuitType = type;
-        Play(row);
-        Start("Zodiac");
-        std::string bySuitpile;
-        for (int suitpile = 0; suitpile < 8; ++suitpile) {
-            bySuitpile += std::to_string(engine.table().Card(Find(kKing, suitpile)).Suit);
-        }
-        return bySuitpile;
-    };
-    EXPECT_EQ(suits(SuitType::One), "00000000");
-    EXPECT_EQ(suits(SuitType::Two), "00110011");
-    EXPECT_EQ(suits(SuitType::Four), "01230123");
-}
-
 }  // namespace
 }  // namespace varnello::test

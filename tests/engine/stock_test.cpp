@@ -29,11 +29,6 @@ TEST(Stock, RedealTurnsTheWasteOver) {
     }
 }
 
-TEST(Stock, OpenStockIsDraggedInsteadOfDealt) {
-    ExpectPlays(WithStock(StockMove::Waste3, StockNum::Stop, StockType::Open),
-                {{"t0 TS, s0 7D 9H", "9H"}, {"t0 TS, s0 7D 9H", "9H>t0", "t0 TS 9H, s0 7D"}});
-}
-
 TEST(Stock, WholeWasteGoesBackUnlogged) {
     HandBoard board(WithStock(StockMove::Waste), "s0 -2C, w0 7H 8H");
     board.array.MoveWasteStock();

@@ -10,7 +10,7 @@ export LC_ALL=C LANGUAGE=C HOME=$folder XDG_CONFIG_HOME=$folder XDG_DATA_HOME=$f
 # answers STATUS OUTPUT ERRORS WORD...: patterns of the shell for what it writes.
 answers() {
     local status=0
-    "$program" "${@:4}" >"$folder/out" 2>"$folder/err" || status=$?
+    env LC_ALL="${locale:-C}" "$program" "${@:4}" >"$folder/out" 2>"$folder/err" || status=$?
     # shellcheck disable=SC2053
     [ "$status" = "$1" ] && [[ $(cat "$folder/out") == $2 ]] && [[ $(cat "$folder/err") == $3 ]] && return
     echo "$program ${*:4}: status $status, it said:" >&2
@@ -20,6 +20,8 @@ answers() {
 
 answers 0 'Varnello [0-9].[0-9]' '' --version
 answers 0 $'Varnello plays patience card games.\n\nusage: varnello *' '' --help
+locale=de_DE.UTF-8 LANGUAGE=fi:de answers 0 '*Patiencen*' '' --help
+locale=en_US.UTF-8 LANGUAGE=en:de answers 0 'Varnello plays *' '' --help
 answers 1 '' $'Varnello can\'t start: there is no graphical display. The toolkit says:\n  *display*'
 DISPLAY=:nonsense answers 1 '' \
     $'Varnello can\'t start: the toolkit can\'t use the display. It says:\n  *display*'
