@@ -90,9 +90,10 @@ private:
         const Sight now = Now();
         const bool rests = now == last_;
         last_ = now;
-        // The counters go on when the act is over, so that no result depends on the moment.
+        // The counters go on when the act is over, and not between a win and its window, so that
+        // no result depends on the moment.
         resting_ = resting_ || rests;
-        if (resting_) fixture_.Beat();
+        if (resting_ && fixture_.engine().life().phase() != Phase::Won) fixture_.Beat();
         const QStringList changes = Changes(before_, now);
         Line& line = *acts_[at_];
         if (qEnvironmentVariableIsSet("VARNELLO_ACCEPT")) {
