@@ -7,7 +7,8 @@ set -euo pipefail
 home=$(mktemp -d)
 XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home "$1" &
 program=$!
-trap 'kill "$program" 2>/dev/null || true; rm -rf "$home"' EXIT
+# What the program writes as it ends lies in there as well.
+trap 'kill "$program" 2>/dev/null || true; wait "$program" 2>/dev/null || true; rm -rf "$home"' EXIT
 
 # The main window and the selector over it.
 for _ in $(seq 200); do
