@@ -2,18 +2,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
-#include <set>
 
 #include "desktop/appearance/background.h"
-#include "desktop/appearance/colours.h"
 #include "desktop/appearance/looks.h"
-#include "desktop/appearance/preview.h"
-#include "desktop/appearance/sample_deal.h"
-#include "desktop/appearance/table_painter.h"
+#include "desktop/appearance/pictures.h"
 #include "desktop/platform/settings_store.h"
-#include "engine/definitions/catalogue.h"
-#include "engine/flow/engine.h"
-#include "engine/null_desktop.h"
 
 // Colours, pictures and the settings file.
 using namespace varnello;

@@ -4,7 +4,6 @@
 #include <QToolTip>
 #include <memory>
 
-#include "desktop/charts/colours.h"
 #include "desktop/charts/row_chart.h"
 #include "desktop/charts/share_chart.h"
 #include "desktop/charts/totals_chart.h"

@@ -189,7 +189,7 @@ void WordsTest::EveryTextIsTranslatedAndFits() {
         engine.commands().CloseGame();
         fixture.StartWithoutAutoplay("Freecell");
         fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
-        fixture.window.menu().Counters().ShowCounters(engine.counters().TimeTick());
+        fixture.Beat();
         Faults faults;
         faults.LookAt("main window", fixture.window);
         const auto look = [&](const char* name, auto&& dialog) { faults.LookAt(name, dialog); };

@@ -181,8 +181,8 @@ private Q_SLOTS:
         }
         for (const LookGroup& group : TileGroups()) {
             QList<QIcon> icons;
-            for (const int id : group.ids) icons << BackgroundIcon({.bgIndex = id});
             for (const int id : group.ids) {
+                icons << BackgroundIcon({.bgIndex = id});
                 const QImage tile = TilePicture(1, {.bgIndex = id});
                 const QString size = QString("%1 x %2").arg(tile.width()).arg(tile.height());
                 Compare(QString("tile %1, %2").arg(id).arg(size), tile, {6, 4});
@@ -247,8 +247,9 @@ private Q_SLOTS:
     void Cells() {
         QStandardItemModel model(1, 6);
         const char* const texts[] = {"left", "12,345", "bold", "too long for its cell", "icon", ""};
-        for (int column = 0; column < 6; ++column) model.setItem(0, column, new QStandardItem);
-        for (int column = 0; column < 6; ++column) model.item(0, column)->setText(texts[column]);
+        for (int column = 0; column < 6; ++column) {
+            model.setItem(0, column, new QStandardItem(texts[column]));
+        }
         model.item(0, 1)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QFont bold = QApplication::font();
         bold.setWeight(QFont::Black);
@@ -332,7 +333,7 @@ private Q_SLOTS:
         wins.Others[1].Moves = 180;
         FinishDialog won({"Freecell", {}, 52, 120, 600}, wins, nullptr);
         Compare("window of a win", won.grab().toImage(), {24, 16});
-        menu.Counters().ShowCounters(fixture.engine().counters().TimeTick());
+        fixture.Beat();
         Compare("menus", fixture.window.menuBar()->grab().toImage(), {80, 3});
         Splash splash;
         Compare("splash", splash.grab().toImage(), {24, 16});
