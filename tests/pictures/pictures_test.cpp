@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyleFactory>
+#include <QTabWidget>
+#include <fstream>
 
 #include "../desktop/fixture.h"
 #include "desktop/appearance/colours.h"
@@ -21,10 +23,10 @@
 #include "desktop/reports/report_cells.h"
 #include "desktop/window/splash.h"
 
-// What the program draws, coarsely: each picture as a grid of average colours, one hexadecimal
-// digit for each of red, green and blue. Another processor or font library changes an average by
-// next to nothing; a bar, a card or a mark that is missing, elsewhere or in another colour changes
-// it by more than the one step that is let pass.
+// What the program draws, coarsely: each picture as a grid of average colours, one digit for each
+// of red, green and blue. Another processor or font library changes an average by next to nothing;
+// a bar, a card or a mark that is missing, elsewhere or in another colour changes it by more than
+// the one step that is let pass.
 //
 // With VARNELLO_ACCEPT=1 the pictures are written into pictures.expected. Those that differ are
 // left beside the program as PNG files.
@@ -33,7 +35,10 @@ using namespace varnello::test;
 
 namespace {
 
-constexpr int kSteps = 15;  // of a channel
+/// The digits of a channel, from none of it to all.
+const QString kDigits = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-_";
+constexpr QSize kChartCells(40, 30);
+constexpr QSize kWindowCells(48, 32);
 
 /// A grid of such cells, row by row.
 QStringList Sketch(const QImage& picture, const QSize& cells) {
@@ -47,7 +52,7 @@ QStringList Sketch(const QImage& picture, const QSize& cells) {
         for (int x = 0; x < cells.width(); ++x) {
             const QColor cell = small.pixelColor(x, y);
             for (const int part : {cell.red(), cell.green(), cell.blue()}) {
-                row += QString::number((part * kSteps + 127) / 255, 16);
+                row += kDigits[(part * int(kDigits.size() - 1) + 127) / 255];
             }
         }
         rows << row;
@@ -58,11 +63,11 @@ QStringList Sketch(const QImage& picture, const QSize& cells) {
 /// The first cell that isn't as expected, in words; empty if there is none.
 QString Difference(const QStringList& rows, const QStringList& expected) {
     if (rows.size() != expected.size()) return "is of another size";
-    const auto digit = [](QChar c) { return QString(c).toInt(nullptr, 16); };
     for (qsizetype y = 0; y < rows.size(); ++y) {
         if (rows[y].size() != expected[y].size()) return "is of another size";
         for (qsizetype i = 0; i < rows[y].size(); ++i) {
-            if (std::abs(digit(rows[y][i]) - digit(expected[y][i])) <= 1) continue;
+            if (std::abs(kDigits.indexOf(rows[y][i]) - kDigits.indexOf(expected[y][i])) <= 1)
+                continue;
             const qsizetype x = i / 3;
             return QString("differs in column %1 of %2, row %3 of %4: #%5 instead of #%6")
                 .arg(x + 1)
@@ -113,7 +118,7 @@ class PicturesTest : public QObject {
             chart.resize(400, 300);
             chart.Show(table);
             const bool light = paper == QColor(Qt::white);
-            Compare(name + (light ? "" : ", in the dark"), chart.grab().toImage());
+            Compare(name + (light ? "" : ", in the dark"), chart.grab().toImage(), kChartCells);
         }
     }
 
@@ -122,6 +127,7 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         QApplication::setStyle(QStyleFactory::create("Fusion"));
         QApplication::setFont(QFont("DejaVu Sans", 9));
+        QApplication::setCursorFlashTime(0);
         QFile file(VARNELLO_PICTURES);
         QVERIFY(file.open(QIODevice::ReadOnly) || qEnvironmentVariableIsSet("VARNELLO_ACCEPT"));
         QString name;
@@ -307,36 +313,71 @@ private Q_SLOTS:
         compare("a stock");
     }
 
-    void Dialogs() {
+    void Windows() {
         WindowFixture fixture;
-        fixture.StartWithoutAutoplay("Freecell");
+        std::ofstream(fixture.Folder() + "/Player1.sre")
+            << R"("11/21/2026 1:00:00 PM","Freecell",123456789012345,120,100,50,1
+"9/20/2026 1:00:00 PM","Freecell",12,3000,90,-80,0
+"some day long ago, in winter","Penguin",7,61,70,20,1
+)";
+        fixture.StartWithoutAutoplay("Freecell", 6);
+        fixture.engine().life().EndGame(Outcome::NotWon);
+        fixture.Start("Freecell", 6);
+        for (int i = 0; i < 3; ++i) {
+            const KesEmpty& slot = fixture.engine().table().PicRes[std::size_t(i)];
+            fixture.Drag(fixture.Top(Cell::Home, i), fixture.At(slot.Left + 532, slot.Top + 720));
+        }
+        fixture.engine().commands().Undo();
         const MainMenu& menu = fixture.window.menu();
         QAction* const items[] = {
-            menu.mFile(FileItem::Number),      menu.mFav(FavItem::Play),
-            menu.mStat(StatItem::Game),        menu.mStat(StatItem::Session),
-            menu.mTools(ToolsItem::Customize), menu.mTools(ToolsItem::Players)};
-        for (QAction* item : items) {
-            QImage picture;
-            WhenOpen<QDialog>([&](QDialog& dialog) {
-                picture = dialog.grab().toImage();
-                dialog.reject();
-            });
-            item->trigger();
-            const QString name = "window of " + item->text().remove('&').remove('.');
-            QTRY_VERIFY2(!picture.isNull(), qPrintable(name));
-            Compare(name, picture, {24, 16});
+            menu.mFile(FileItem::Number),      menu.mFav(FavItem::Organize),
+            menu.mFav(FavItem::Play),          menu.mStat(StatItem::Game),
+            menu.mStat(StatItem::Session),     menu.mStat(StatItem::Log),
+            menu.mStat(StatItem::HighScore),   menu.mTools(ToolsItem::Players),
+            menu.mTools(ToolsItem::Customize), menu.mTools(ToolsItem::History),
+            menu.mHelp(HelpItem::About)};
+        const QPalette light = QApplication::palette();
+        const QPalette dark(QColor(0x40, 0x40, 0x48), QColor(0x20, 0x20, 0x28));
+        menu.mHelp(HelpItem::Rules)->trigger();
+        const auto windows = QApplication::topLevelWidgets();
+        const auto isHelp = [](QWidget* window) {
+            return window->inherits("varnello::HelpWindow");
+        };
+        QWidget* const help = *std::find_if(windows.begin(), windows.end(), isHelp);
+        for (const QPalette& palette : {light, dark}) {
+            QApplication::setPalette(palette);
+            const QString how = palette == dark ? " in the dark" : "";
+            Compare("help" + how, help->grab().toImage(), kWindowCells);
+            menu.mFile(FileItem::Select)->trigger();
+            Compare("selector" + how, fixture.window.select()->grab().toImage(), kWindowCells);
+            fixture.window.select()->reject();
+            for (QAction* item : items) {
+                const QString name = "window of " + item->text().remove('&').remove('.') + how;
+                int seen = 0;
+                WhenOpen<QDialog>([&](QDialog& dialog) {
+                    QVERIFY2(QTest::qWaitForWindowActive(&dialog), qPrintable(name));
+                    auto* tabs = dialog.findChild<QTabWidget*>();
+                    do {
+                        if (tabs) tabs->setCurrentIndex(seen);
+                        const QString tab = tabs ? ", " + tabs->tabText(seen) : "";
+                        Compare(name + tab, dialog.grab().toImage(), kWindowCells);
+                    } while (++seen < (tabs ? tabs->count() : 0));
+                    dialog.reject();
+                });
+                item->trigger();
+                QTRY_VERIFY2(seen > 0, qPrintable(name));
+            }
         }
-        menu.mFile(FileItem::Select)->trigger();
-        Compare("window of Select Game", fixture.window.select()->grab().toImage(), {24, 16});
+        QApplication::setPalette(light);
         OwnWins wins{.Others = std::vector<ScoreRecord>(2), .Place = 2};
         wins.Others[0].Time = 900;
         wins.Others[1].Moves = 180;
         FinishDialog won({"Freecell", {}, 52, 120, 600}, wins, nullptr);
-        Compare("window of a win", won.grab().toImage(), {24, 16});
+        Compare("window of a win", won.grab().toImage(), kWindowCells);
         fixture.Beat();
         Compare("menus", fixture.window.menuBar()->grab().toImage(), {80, 3});
         Splash splash;
-        Compare("splash", splash.grab().toImage(), {24, 16});
+        Compare("splash", splash.grab().toImage(), kWindowCells);
     }
 
     void NothingIsLeftOut() {
