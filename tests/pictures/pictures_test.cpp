@@ -315,6 +315,26 @@ private Q_SLOTS:
 
     void Windows() {
         WindowFixture fixture;
+        const MainMenu& menu = fixture.window.menu();
+        const auto compare = [&](QAction* item, const QString& how) {
+            const QString name = "window of " + item->text().remove('&').remove('.') + how;
+            int seen = 0;
+            WhenOpen<QDialog>([&](QDialog& dialog) {
+                QVERIFY2(QTest::qWaitForWindowActive(&dialog), qPrintable(name));
+                auto* tabs = dialog.findChild<QTabWidget*>();
+                do {
+                    if (tabs) tabs->setCurrentIndex(seen);
+                    const QString tab = tabs ? ", " + tabs->tabText(seen) : "";
+                    Compare(name + tab, dialog.grab().toImage(), kWindowCells);
+                } while (++seen < (tabs ? tabs->count() : 0));
+                dialog.reject();
+            });
+            item->trigger();
+            QTRY_VERIFY2(seen > 0, qPrintable(name));
+        };
+        for (const StatItem item : {StatItem::Log, StatItem::Session, StatItem::HighScore}) {
+            compare(menu.mStat(item), " without a result");
+        }
         std::ofstream(fixture.Folder() + "/Player1.sre")
             << R"("11/21/2026 1:00:00 PM","Freecell",123456789012345,120,100,50,1
 "9/20/2026 1:00:00 PM","Freecell",12,3000,90,-80,0
@@ -328,7 +348,6 @@ private Q_SLOTS:
             fixture.Drag(fixture.Top(Cell::Home, i), fixture.At(slot.Left + 532, slot.Top + 720));
         }
         fixture.engine().commands().Undo();
-        const MainMenu& menu = fixture.window.menu();
         QAction* const items[] = {
             menu.mFile(FileItem::Number),      menu.mFav(FavItem::Organize),
             menu.mFav(FavItem::Play),          menu.mStat(StatItem::Game),
@@ -351,22 +370,7 @@ private Q_SLOTS:
             menu.mFile(FileItem::Select)->trigger();
             Compare("selector" + how, fixture.window.select()->grab().toImage(), kWindowCells);
             fixture.window.select()->reject();
-            for (QAction* item : items) {
-                const QString name = "window of " + item->text().remove('&').remove('.') + how;
-                int seen = 0;
-                WhenOpen<QDialog>([&](QDialog& dialog) {
-                    QVERIFY2(QTest::qWaitForWindowActive(&dialog), qPrintable(name));
-                    auto* tabs = dialog.findChild<QTabWidget*>();
-                    do {
-                        if (tabs) tabs->setCurrentIndex(seen);
-                        const QString tab = tabs ? ", " + tabs->tabText(seen) : "";
-                        Compare(name + tab, dialog.grab().toImage(), kWindowCells);
-                    } while (++seen < (tabs ? tabs->count() : 0));
-                    dialog.reject();
-                });
-                item->trigger();
-                QTRY_VERIFY2(seen > 0, qPrintable(name));
-            }
+            for (QAction* item : items) compare(item, how);
         }
         QApplication::setPalette(light);
         OwnWins wins{.Others = std::vector<ScoreRecord>(2), .Place = 2};
@@ -376,6 +380,10 @@ private Q_SLOTS:
         Compare("window of a win", won.grab().toImage(), kWindowCells);
         fixture.Beat();
         Compare("menus", fixture.window.menuBar()->grab().toImage(), {80, 3});
+        for (const QAction* item : fixture.window.menuBar()->actions()) {
+            if (!item->menu()) continue;
+            Compare("menu " + item->text(), item->menu()->grab().toImage(), kWindowCells);
+        }
         Splash splash;
         Compare("splash", splash.grab().toImage(), kWindowCells);
     }

@@ -11,9 +11,11 @@
 #include <QTabBar>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QToolTip>
 #include <QTreeView>
 #include <fstream>
 
+#include "desktop/accessible/table_voice.h"
 #include "sight.h"
 
 namespace varnello::test {
@@ -27,9 +29,17 @@ void SelectAlmostWon(cGames& games, const std::string&) {
     GameRow row = *FindGame("Stripped Freecell");
     row.Ext.TotalCards = 5;
     row.Home.Cards = 1;
-    row.Goal = {
-        .Piles = 4, .Order = OrderCode::Anything, .Cards = 4, .GoalType = GoalType::FirstCards};
+    row.Goal.GoalType = GoalType::FirstCards;
+    row.Goal.Order = OrderCode::Anything;
+    row.Goal.Cards = 4;
     row.Stock.StockType = StockType::Closed;
+    SelectRow(games, row);
+}
+
+/// Three cards each of the first four piles lie closed.
+void SelectClosedCorner(cGames& games, const std::string&) {
+    GameRow row = *FindGame("Freecell");
+    row.Home.HomeType = HomeType::ClosedCorner;
     SelectRow(games, row);
 }
 
@@ -168,6 +178,9 @@ bool Arrange(const QString& verb, const QString& what, const QString& value,
     } else if (verb == "almost") {
         engine.life().SelectBy(SelectAlmostWon);
         engine.life().StartGame("Stripped Freecell", number);
+    } else if (verb == "closed") {
+        engine.life().SelectBy(SelectClosedCorner);
+        engine.life().StartGame("Freecell", number);
     } else if (verb == "player") {
         engine.data().AddPlayer(what.toStdString());
     } else if (verb == "set") {
@@ -179,6 +192,7 @@ bool Arrange(const QString& verb, const QString& what, const QString& value,
         fixture.clock.now.minute += what.toInt();
     } else if (verb == "listen") {
         fixture.window.setProperty("listen", true);
+        fixture.window.table().findChild<TableVoice*>()->SpeakAlways();
     } else if (verb == "copied") {
         QGuiApplication::clipboard()->setText(
             QString(what).replace("\\t", "\t").replace("\\n", "\n"));
@@ -244,6 +258,17 @@ QString Do(const QString& act, WindowFixture& fixture) {
         const PicID top = what == "stock" ? fixture.Top(Cell::Stock, 0)
                                           : fixture.Top(Cell::Home, what.toInt() - 1);
         fixture.Move(fixture.CentreOf(top), Qt::NoButton);
+        return {};
+    }
+    if (verb == "hover") {  // over a point, in percent of the width and the height
+        auto* part = Find<QWidget>(front, what);
+        if (!part) return nothing;
+        const QPoint at(part->width() * value.section(' ', 0, 0).toInt() / 100,
+                        part->height() * value.section(' ', 1).toInt() / 100);
+        QHelpEvent ask(QEvent::ToolTip, at, part->mapToGlobal(at));
+        QCoreApplication::sendEvent(part, &ask);
+        fixture.window.setProperty("tip", QToolTip::text());
+        QToolTip::hideText();
         return {};
     }
     if (verb == "wheel") {

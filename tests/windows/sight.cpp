@@ -230,6 +230,7 @@ void LookAtCommands(const QMainWindow& window, Sight& sight) {
 }
 
 void Listen(QWidget& table, Sight& sight) {
+    sight.lines << "told: " + table.accessibleDescription();
     QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&table);
     for (int i = 0; i < tree->childCount(); ++i) {
         const QAccessibleInterface* pile = tree->child(i);
@@ -255,8 +256,7 @@ void Look(QWidget& window, Sight& sight) {
     const QString title = menu                             ? "menu"
                           : window.inherits("QMessageBox") ? "box"
                                                            : window.windowTitle();
-    const QWidget* focus = window.focusWidget();
-    sight.windows[title] = focus ? NameOf(*focus) : QString();
+    sight.windows << title;
     if (menu) {
         for (const QAction* item : menu->actions())
             sight.lines << title + kBar + Plain(item->text());
@@ -275,6 +275,9 @@ void Look(QWidget& window, Sight& sight) {
         const char* const icons[] = {"plain", "information", "warning", "critical", "question"};
         sight.lines << title + kBar + '(' + icons[box->icon()] + ')';
     }
+    if (const QWidget* focus = window.focusWidget()) {
+        sight.lines << title + kBar + "at " + NameOf(*focus);
+    }
     for (const auto* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window) || BelongsToAnother(*widget, window)) continue;
         for (const QString& line : LinesOf(*widget)) sight.lines << title + kBar + line;
@@ -292,18 +295,13 @@ void Look(QWidget& window, Sight& sight) {
 
 QStringList Changes(const Sight& before, const Sight& now) {
     QStringList gone, told, fresh = now.lines;
-    for (auto window = before.windows.begin(); window != before.windows.end(); ++window) {
-        if (!now.windows.contains(window.key())) gone << "- " + window.key();
-    }
+    for (const QString& window : before.windows - now.windows) gone << "- " + window;
     for (const QString& line : before.lines) {
         if (!fresh.removeOne(line) && !gone.contains("- " + line.section(kBar, 0, 0))) {
             gone << "- " + line;
         }
     }
-    for (auto window = now.windows.begin(); window != now.windows.end(); ++window) {
-        if (before.windows.contains(window.key())) continue;
-        told << "+ " + window.key() + (window->isEmpty() ? "" : ", at " + *window);
-    }
+    for (const QString& window : now.windows - before.windows) told << "+ " + window;
     for (const QString& line : fresh) told << "+ " + line;
     for (auto picture = now.pictures.begin(); picture != now.pictures.end(); ++picture) {
         const auto old = before.pictures.find(picture.key());
@@ -312,13 +310,11 @@ QStringList Changes(const Sight& before, const Sight& now) {
     for (QStringList* lines : {&gone, &told}) {
         for (QString& line : *lines) line = line.trimmed();
         // The toolkit lists its windows in any order.
-        std::stable_sort(lines->begin(), lines->end(),
-                         [](const QString& one, const QString& other) {
-                             const auto window = [](const QString& line) {
-                                 return line.section(kBar, 0, 0).section(", at ", 0, 0);
-                             };
-                             return window(one) < window(other);
-                         });
+        std::stable_sort(
+            lines->begin(), lines->end(), [](const QString& one, const QString& other) {
+                const auto window = [](const QString& line) { return line.section(kBar, 0, 0); };
+                return window(one) < window(other);
+            });
     }
     return gone + told;
 }

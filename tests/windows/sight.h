@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QMap>
+#include <QSet>
 #include <QStringList>
 #include <QWidget>
 
@@ -10,8 +11,8 @@
 namespace varnello::test {
 
 struct Sight {
-    /// The open windows but for the main one, by their title, with what has the focus.
-    QMap<QString, QString> windows;
+    /// The titles of the open windows but for the main one.
+    QSet<QString> windows;
     /// "Window | thing"; what belongs to no window stands without the bar.
     QStringList lines;
     /// What is drawn rather than written: a number that is another when the screen shows another

@@ -190,6 +190,7 @@ private:
             << "clipboard: " +
                    QGuiApplication::clipboard()->text().replace('\t', "\\t").replace('\n', "\\n");
         for (QString& line : sight.lines) line.replace(fixture_.folder.path(), "HOME");
+        sight.lines << "tip: " + fixture_.window.property("tip").toString().replace('\n', " / ");
         LookAtCommands(fixture_.window, sight);
         if (fixture_.window.property("listen").toBool()) Listen(fixture_.window.table(), sight);
         LookAtPicture(fixture_.window.table(), "table", sight);

@@ -12,7 +12,8 @@ namespace varnello {
 TableVoice::TableVoice(Motion& motion, TableView& view)
     : QObject(&view), motion_(motion), view_(view) {
     const auto soon = [this] {
-        if (!QAccessible::isActive() || std::exchange(looking_, true)) return;
+        const bool heard = always_ || QAccessible::isActive();
+        if (!heard || std::exchange(looking_, true)) return;
         QMetaObject::invokeMethod(this, &TableVoice::Look, Qt::QueuedConnection);
     };
     connect(&motion_, &Motion::Changed, this, soon);

@@ -19,6 +19,9 @@ public:
     /// The view owns it; the motion outlives it.
     TableVoice(Motion& motion, TableView& view);
 
+    /// Tells it even while nobody listens; for tests.
+    void SpeakAlways() { always_ = true; }
+
 private:
     /// What was last told of a card.
     struct Known {
@@ -43,6 +46,7 @@ private:
     Motion& motion_;
     TableView& view_;
     std::optional<Board> known_;
+    bool always_ = false;
     bool looking_ = false;
     bool dealt_ = false;
 };
