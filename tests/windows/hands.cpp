@@ -267,8 +267,10 @@ QString Do(const QString& act, WindowFixture& fixture) {
                         part->height() * value.section(' ', 1).toInt() / 100);
         QHelpEvent ask(QEvent::ToolTip, at, part->mapToGlobal(at));
         QCoreApplication::sendEvent(part, &ask);
-        fixture.window.setProperty("tip", QToolTip::text());
-        QToolTip::hideText();
+        fixture.window.setProperty("tip", QToolTip::isVisible() ? QToolTip::text() : QString());
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->inherits("QTipLabel")) window->close();  // the library would take its time
+        }
         return {};
     }
     if (verb == "wheel") {
