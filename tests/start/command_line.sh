@@ -25,6 +25,8 @@ locale=en_US.UTF-8 LANGUAGE=en:de answers 0 'Varnello plays *' '' --help
 answers 1 '' $'Varnello can\'t start: there is no graphical display. The toolkit says:\n  *display*'
 DISPLAY=:nonsense answers 1 '' \
     $'Varnello can\'t start: the toolkit can\'t use the display. It says:\n  *display*'
+WAYLAND_DISPLAY=nonsense answers 1 '' \
+    $'Varnello can\'t start: the toolkit can\'t use the display. It says:\n  *display*'
 QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--nonsense"; *' --nonsense
 QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--help"; *' --help me
 [ ! -e "$folder/Varnello" ] || { echo "An answer leaves files behind." >&2; exit 1; }
