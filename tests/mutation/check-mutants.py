@@ -165,7 +165,7 @@ def failing(half, snapshot, everything):
         program = snapshot / "bin/varnello"
         tests += [("accessible", [*display, "dbus-run-session", "--",
                                   ROOT / "tests/accessible/read_table.py", program]),
-                  ("command line", [ROOT / "tests/start/command_line.sh", program]),
+                  ("command line", [ROOT / "tests/start/command_line.sh", program, script]),
                   ("window", [*display, ROOT / "tests/start/window.sh", program]),
                   ("signals", [*display, ROOT / "tests/faults/signals.sh", program]),
                   ("", [*display, snapshot / "bin/varnello-x_test"])]

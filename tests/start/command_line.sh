@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# command_line.sh PROGRAM: what the program answers without opening a window.
+# command_line.sh PROGRAM SCRIPT: what the program answers without opening a window, and the
+# scripted table.
 set -euo pipefail
 program=$1
 folder=$(mktemp -d)
@@ -30,3 +31,11 @@ WAYLAND_DISPLAY=nonsense answers 1 '' \
 QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--nonsense"; *' --nonsense
 QT_QPA_PLATFORM=offscreen answers 2 '' $'Varnello doesn\'t know "--help"; *' --help me
 [ ! -e "$folder/Varnello" ] || { echo "An answer leaves files behind." >&2; exit 1; }
+
+program=$2
+answers 2 '' 'usage: varnello-script DIRECTORY < script' </dev/null
+answers 2 '' 'usage: *' "$folder/a" "$folder/b" </dev/null
+touch "$folder/file"
+answers 2 '' "varnello-script: the folder $folder/file/data can't be used" "$folder/file/data" </dev/null
+answers 0 'state: 0|*' '' "$folder/new/data" <<<state
+[ -d "$folder/new/data" ] || { echo "The data folder isn't made." >&2; exit 1; }
