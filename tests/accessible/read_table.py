@@ -121,6 +121,13 @@ def check_deal():
             + [f"Foundation {i}, empty" for i in (1, 2, 3, 4)], names)
     cards = [card.name for pile in piles for card in pile]
     require(len(set(cards)) == 52 and "closed card" not in cards, cards)
+    for place, pile in enumerate(piles):
+        require(pile.getIndexInParent() == place, f"{pile.name} stands at {pile.getIndexInParent()}")
+        for position, card in enumerate(pile):
+            require(card.getIndexInParent() == position, f"{card.name} of {pile.name}")
+            states = card.getState()
+            require(states.contains(pyatspi.STATE_READ_ONLY)
+                    and states.contains(pyatspi.STATE_SHOWING), f"{card.name}: {states.getStates()}")
     card = piles[2][1]
     require(card.description == "Tableau 3, card 2 of 7", card.description)
     left, top, width, height = bounds(card)
@@ -153,6 +160,8 @@ def play(show):
     table = check_deal()
     counters = until("the counters", lambda: find("label", r"Score :.*Time :.*Moves :0"))
     require(bounds(counters)[2] > 50, f"counters at {bounds(counters)}")
+    last = counters.parent.childCount - 1
+    require(counters.getIndexInParent() == last, f"counters at {counters.getIndexInParent()}")
 
     # A card into a cell, and back again.
     heard.clear()
@@ -192,6 +201,15 @@ def play(show):
     until("the end", lambda: heard[2:] == ["The game is over."])
     key("F2")
     until("the next deal", lambda: re.fullmatch("Freecell, game number .*, is dealt.", heard[3]))
+
+    # A report is read row by row.
+    key("F4")
+    key("ctrl+Tab")
+    games = until("the games' report", lambda: find("table", "Games")).queryTable()
+    require(games.getRowDescription(1) == "2" and games.getColumnDescription(0) == "Game",
+            f"{games.getRowDescription(1)}, {games.getColumnDescription(0)}")
+    require(games.getAccessibleAt(18, 1).name == "2", games.getAccessibleAt(18, 1).name)
+    key("Escape")
 
     # The menus by key, and the help as a window of its own.
     key("F10")
