@@ -303,9 +303,17 @@ private Q_SLOTS:
         compare("two cards over nothing");
         QTest::keyClick(&fixture.window, Qt::Key_Escape);
         compare("the deal again");
+        const KesEmpty& reserve = fixture.engine().table().PicRes[0];
+        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(reserve.Left, reserve.Top));
+        const QPoint lower = fixture.CentreOf(fixture.Top(Cell::Home, 0));
+        fixture.Press(fixture.CentreOf(card));
+        fixture.Move(lower);
+        compare("a card over one that takes it");
+        fixture.Release(lower);
+        compare("a card on another");
         fixture.window.table().ZoomBy(1);
         compare("a larger deal");
-        QTRY_VERIFY2(!fixture.window.toolbar().Button(5)->isChecked(), "Autoplay stays ticked");
+        QTRY_VERIFY2(fixture.window.toolbar().Button(7)->isEnabled(), "Undo stays grey");
         const QRect buttons(fixture.window.toolbar().mapTo(&fixture.window, QPoint()),
                             QSize(640, 25));
         Compare("toolbar", fixture.window.grab(buttons).toImage(), {128, 5});
@@ -332,11 +340,12 @@ private Q_SLOTS:
             item->trigger();
             QTRY_VERIFY2(seen > 0, qPrintable(name));
         };
-        for (const StatItem item : {StatItem::Log, StatItem::Session, StatItem::HighScore}) {
+        for (const StatItem item :
+             {StatItem::Game, StatItem::Log, StatItem::Session, StatItem::HighScore}) {
             compare(menu.mStat(item), " without a result");
         }
         std::ofstream(fixture.Folder() + "/Player1.sre")
-            << R"("11/21/2026 1:00:00 PM","Freecell",123456789012345,120,100,50,1
+            << R"("11/21/2026 1:00:00 PM","Freecell",123456789012345,900000,2000000000,-1234567890,1
 "9/20/2026 1:00:00 PM","Freecell",12,3000,90,-80,0
 "some day long ago, in winter","Penguin",7,61,70,20,1
 )";

@@ -78,7 +78,8 @@ private:
         time_.start();
         QTimer::singleShot(0, this, &Scene::Compare);
         const QString act = acts_[at_]->text;  // what opens may stay open until the scene ends
-        const QString unknown = Do(act, fixture_);
+        if (act == "look") before_ = {};       // all that is seen is new then
+        const QString unknown = act == "look" ? QString() : Do(act, fixture_);
         if (!unknown.isEmpty() && wrong.isEmpty()) {
             wrong = act + ": " + unknown;
             End();
