@@ -1,14 +1,12 @@
-#include <QHelpEvent>
 #include <QPaintEngine>
 #include <QTest>
-#include <QToolTip>
 #include <memory>
 
 #include "desktop/charts/row_chart.h"
 #include "desktop/charts/share_chart.h"
 #include "desktop/charts/totals_chart.h"
 
-// The charts as a person sees them: what they write where, and their tool tips.
+// The texts of charts of all sizes: whole, apart, and there.
 using namespace varnello;
 
 namespace {
@@ -98,55 +96,6 @@ private Q_SLOTS:
             chart->Show({});
             QCOMPARE(chart->accessibleDescription(), nothing);
         }
-    }
-
-    void TellsTheFiguresUnderTheMouse_data() {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<ChartTable>("table");
-        QTest::addColumn<QPointF>("at");  // parts of the width and height
-        QTest::addColumn<QString>("tip");
-        const auto row = [](const char* name, int kind, const ChartTable& table, double x, double y,
-                            const char* tip) {
-            QTest::newRow(name) << kind << table << QPointF(x, y) << QString(tip);
-        };
-        const ChartTable share{.series = kShare, .rows = {{1200, 3000}}};
-        row("first part", 0, share, 0.55, 0.1, "Won : 1200 (28.6%)");
-        row("last part", 0, share, 0.45, 0.1, "Lost : 3000 (71.4%)");
-        row("hole", 0, share, 0.5, 0.45, "");
-        row("beside the ring", 0, share, 0.02, 0.5, "");
-        row("nothing won", 0, {.series = kShare, .rows = {{0, 3}}}, 0.51, 0.1, "Lost : 3 (100%)");
-        const ChartTable totals{.series = kFigures, .rows = {{0, 123456, 176525}}};
-        row("first bar", 1, totals, 0.4, 0.2, "Score : 0");
-        row("above the bars", 1, totals, 0.5, 0.01, "");
-        row("middle bar", 1, totals, 0.9, 0.5, "Moves : 123,456");
-        row("hours", 1, totals, 0.1, 0.8, "Time : 49:02:05");
-        ChartTable named{.series = kPlayedWon, .rows = {{3, 1}, {}, {5, kNoValue}}};
-        named.rowNames = QStringList{"May", "June", "July"};
-        row("first row", 2, named, 0.2, 0.5, "May\nPlayed : 3\nWon : 1");
-        row("empty row", 2, named, 0.5, 0.5, "");
-        row("missing value", 2, named, 0.9, 0.5, "July\nPlayed : 5");
-        named.rowTips = QStringList{"<b>Ann</b>"};
-        row("name like markup", 2, named, 0.2, 0.5,
-            "&lt;b&gt;Ann&lt;/b&gt;<br/>Played : 3<br/>Won : 1");
-        row("from row 0", 2, {.series = kFigures, .rows = {{}, {-20, 5, 90}}, .firstRow = 0}, 0.8,
-            0.5, "1\nScore : -20\nMoves : 5\nTime : 0:01:30");
-    }
-
-    void TellsTheFiguresUnderTheMouse() {
-        QFETCH(int, kind);
-        QFETCH(ChartTable, table);
-        QFETCH(QPointF, at);
-        QFETCH(QString, tip);
-        const auto chart = kMakers[kind](table, {400, 300});
-        const QPoint point(qRound(chart->width() * at.x()), qRound(chart->height() * at.y()));
-        const QPoint before(1, 1);  // an open tip follows the mouse
-        QHelpEvent ask(QEvent::ToolTip, before, chart->mapToGlobal(before));
-        QCoreApplication::sendEvent(chart.get(), &ask);
-        QToolTip::showText(chart->mapToGlobal(before), "?", chart.get());
-        QMouseEvent move(QEvent::MouseMove, point, chart->mapToGlobal(point), Qt::NoButton,
-                         Qt::NoButton, {});
-        QCoreApplication::sendEvent(chart.get(), &move);
-        QTRY_COMPARE(QToolTip::text(), tip);
     }
 
     void TextsAreWholeAndApart_data() {

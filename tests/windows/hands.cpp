@@ -16,6 +16,7 @@
 #include <fstream>
 
 #include "desktop/accessible/table_voice.h"
+#include "desktop/charts/chart.h"
 #include "sight.h"
 
 namespace varnello::test {
@@ -265,11 +266,13 @@ QString Do(const QString& act, WindowFixture& fixture) {
         if (!part) return nothing;
         const QPoint at(part->width() * value.section(' ', 0, 0).toInt() / 100,
                         part->height() * value.section(' ', 1).toInt() / 100);
-        QHelpEvent ask(QEvent::ToolTip, at, part->mapToGlobal(at));
-        QCoreApplication::sendEvent(part, &ask);
-        fixture.window.setProperty("tip", QToolTip::isVisible() ? QToolTip::text() : QString());
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->inherits("QTipLabel")) window->close();  // the library would take its time
+        if (QToolTip::isVisible() && dynamic_cast<Chart*>(part)) {  // it follows the mouse
+            QMouseEvent move(QEvent::MouseMove, at, part->mapToGlobal(at), Qt::NoButton,
+                             Qt::NoButton, {});
+            QCoreApplication::sendEvent(part, &move);
+        } else {
+            QHelpEvent ask(QEvent::ToolTip, at, part->mapToGlobal(at));
+            QCoreApplication::sendEvent(part, &ask);
         }
         return {};
     }

@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QDir>
+#include <QToolTip>
 
 #include "desktop/accessible/windows.h"
 #include "desktop/platform/text.h"
@@ -191,7 +192,8 @@ private:
             << "clipboard: " +
                    QGuiApplication::clipboard()->text().replace('\t', "\\t").replace('\n', "\\n");
         for (QString& line : sight.lines) line.replace(fixture_.folder.path(), "HOME");
-        sight.lines << "tip: " + fixture_.window.property("tip").toString().replace('\n', " / ");
+        const QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
+        sight.lines << "tip: " + QString(tip).replace('\n', " / ");
         LookAtCommands(fixture_.window, sight);
         if (fixture_.window.property("listen").toBool()) Listen(fixture_.window.table(), sight);
         LookAtPicture(fixture_.window.table(), "table", sight);
