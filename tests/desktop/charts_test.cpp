@@ -84,20 +84,6 @@ class ChartsTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
 
-    void NothingIsSaidOnlyOfTablesWithoutAValue() {
-        const QString nothing = QStringLiteral("Nothing played yet");
-        const ChartTable blank[] = {{}, {.series = kFigures}, {.series = kShare, .rows = {{}, {}}}};
-        for (const Maker make : kMakers) {
-            for (const ChartTable& table : blank) {
-                QCOMPARE(make(table, {400, 300})->accessibleDescription(), nothing);
-            }
-            const auto chart = make({.series = kFigures, .rows = {{0, 0, 0}}}, {400, 300});
-            QVERIFY2(chart->accessibleDescription() != nothing, "a game of zeros is a game");
-            chart->Show({});
-            QCOMPARE(chart->accessibleDescription(), nothing);
-        }
-    }
-
     void TextsAreWholeAndApart_data() {
         QTest::addColumn<int>("kind");
         QTest::addColumn<ChartTable>("table");

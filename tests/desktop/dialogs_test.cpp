@@ -1,4 +1,5 @@
 #include <QAbstractItemModelTester>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -136,6 +137,23 @@ private Q_SLOTS:
             QVERIFY2(dialog.width() <= dialog.screen()->availableSize().width(),
                      "wider than the screen");
         });
+    }
+
+    void OfAHugeSelectionTheFirstRowsAreCopied() {
+        WindowFixture fixture;
+        std::ofstream file(fixture.Folder() + "/Player1.sre");
+        for (int i = 0; i <= 50'000; ++i)
+            file << "\"11/22/2026 1:00:00 PM\",\"Freecell\",7,1,1,5,1\n";
+        file.close();
+        fixture.engine().score().OpenAllScore();
+        LogDialog dialog(fixture.engine(), &fixture.window);
+        auto* log = Named<ReportView>(dialog, "Log");
+        log->selectAll();
+        QTest::keyClick(log, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text().count('\n'), 49'999);
+        const auto labels = dialog.findChildren<QLabel*>();
+        QVERIFY2(labels.last()->text().startsWith("The first 50,000 of"),
+                 "nobody tells that rows are missing");
     }
 
     void LongWorkIsWatchedAndMayBeStopped() {

@@ -129,15 +129,6 @@ private Q_SLOTS:
         QCOMPARE(table.CardRect(card.Left, card.Top).left(),
                  qRound(corner) + qRound(card.Left / 15));
     }
-
-    void TheCloseBoxBooksARunningGame() {
-        WindowFixture fixture;
-        QSignalSpy closed(&fixture.window, &MainWindow::Closed);
-        fixture.StartWithoutAutoplay("Freecell", 4711);
-        fixture.window.close();
-        QCOMPARE(closed.count(), 1);
-        QCOMPARE(fixture.Scores(), std::vector<std::string>{"\"Freecell\",4711,0,0,0,0"});
-    }
 };
 
 QTEST_MAIN(ShellTest)

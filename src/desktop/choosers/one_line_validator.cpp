@@ -8,7 +8,7 @@
 namespace varnello {
 
 OneLineValidator::OneLineValidator(QLineEdit* box, std::size_t most)
-    : QValidator(box), box_(*box), most_(most) {}
+    : QValidator(box), most_(most) {}
 
 QValidator::State OneLineValidator::validate(QString& text, int& cursor) const {
     for (qsizetype i = text.size() - 1; i >= 0; --i) {
@@ -18,11 +18,14 @@ QValidator::State OneLineValidator::validate(QString& text, int& cursor) const {
         text.remove(i, 1);
         if (i < cursor) --cursor;
     }
-    const std::string typed = text.toStdString();
-    if (CharacterCount(typed) <= most_) return Acceptable;
-    if (CharacterCount(box_.text().toStdString()) >= most_) return Invalid;
-    text = ToQt(FirstCharacters(typed, most_));
-    cursor = std::min(cursor, static_cast<int>(text.size()));
+    // What was entered ends at the cursor.
+    const QString after = text.mid(cursor);
+    const std::size_t kept = std::min(CharacterCount(after.toStdString()), most_);
+    const std::string entered = text.left(cursor).toStdString();
+    if (CharacterCount(entered) + kept <= most_) return Acceptable;
+    text = ToQt(FirstCharacters(entered, most_ - kept));
+    cursor = static_cast<int>(text.size());
+    text += after;
     return Acceptable;
 }
 
