@@ -127,6 +127,7 @@ private Q_SLOTS:
             log.horizontalHeader()->resizeSection(1, 222);
             dialog.resize(600, 444);
             QCOMPARE(log.columnWidth(1), 222);
+            dialog.showMaximized();
         });
         open([](LogDialog& dialog, ReportView& log) {
             QCOMPARE(dialog.size(), QSize(600, 444));

@@ -90,31 +90,6 @@ private Q_SLOTS:
         tzset();
     }
 
-    void AReplayStopsByItsItemAndItsButton() {
-        for (const bool byButton : {false, true}) {
-            WindowFixture fixture;
-            fixture.StartWithoutAutoplay("Freecell");
-            for (const int x : {2980, 4080}) {
-                fixture.Drag(fixture.Top(Cell::Home, x > 3000), fixture.At(x + 532, 200 + 720));
-            }
-            fixture.window.SetBeat(WindowFixture::kNever, 500);
-            const Replay& replay = fixture.engine().replay();
-            QAction* stop = fixture.window.menu().mReplay(ReplayItem::Stop);
-            QAction* back = fixture.window.menu().mReplay(ReplayItem::Back);
-            QTRY_VERIFY2(back->isEnabled(), "Back stays grey after two moves");
-            back->trigger();
-            QTRY_VERIFY2(stop->isEnabled(), "Stop stays grey during a replay");
-            QVERIFY2(replay.BackwardOn(), "Back replays nothing");
-            if (byButton) {
-                QTest::mouseClick(fixture.window.toolbar().Button(11), Qt::LeftButton);
-            } else {
-                stop->trigger();
-            }
-            QVERIFY2(!replay.BackwardOn(), "Stop doesn't stop it");
-            QTRY_VERIFY2(!stop->isEnabled(), "Stop stays when nothing is replayed");
-        }
-    }
-
     void TheTableStaysInTheMiddle() {
         WindowFixture fixture;
         TableView& table = fixture.window.table();

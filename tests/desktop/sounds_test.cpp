@@ -1,4 +1,5 @@
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 
 #include "desktop/modules/sound/mixer.h"
@@ -76,6 +77,12 @@ private Q_SLOTS:
         mixer.Start(quiet);
         mixer.Fill(std::span(heard).first(1));
         QVERIFY2(heard[0] > 8000, "the next one is late");
+        const Wave loudest{44100, 1, std::vector<std::int16_t>(1000, 32767)};
+        for (int i = 0; i < 3; ++i) {
+            mixer.Start(loudest);
+            mixer.Fill(std::span(heard).first(20));
+            QVERIFY2(*std::min_element(heard.begin(), heard.begin() + 20) > 0, "it crackles");
+        }
     }
 };
 

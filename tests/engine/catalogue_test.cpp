@@ -104,6 +104,11 @@ TEST(Rows, ImpossibleOnesAreRefusedInWords) {
         {Harbour(), [](Row row) { row.Home.Cards = 49; }, "more cards"},
         {Harbour(), [](Row row) { row.Stock.StockType = StockType::TwoSuits; }, "StockType::Two"},
         {Harbour(), [](Row row) { row.Home.SuitType = SuitType::One; }, "an order of alternating"},
+        {Harbour(),
+         [](Row row) {
+             row.Home.SuitType = SuitType::One, row.Home.Order = OrderCode::EitherColor;
+         },
+         "an order of alternating"},
         {Harbour(), Pattern(HomeType::BySuit, 3, 48), "HomeType::BySuit"},
         {Harbour(), Pattern(HomeType::Cone, 8, 48), "HomeType::Cone"},
         {Harbour(), Pattern(HomeType::AtRandom, 1, 48), "HomeType::AtRandom"},

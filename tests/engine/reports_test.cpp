@@ -50,6 +50,10 @@ TEST_F(Reports, GeneralFigures) {
               "Total Time : 0:02:00|Moves Per Game : 100|Score Per Game : 50|"
               "Time Per Game : 0:02:00|Games Per Hour : 30|Moves Per Hour : 3000|"
               "Score Per Hour : 1500|Winning Percentage : 100%|");
+    const Ranking top = TopRows(engine.score(), engine.dates());
+    EXPECT_EQ(top.Positions.at(0), 0U) << "where the game stands among all";
+    Write({Game(1, 40000), Game(1, 40000)});
+    EXPECT_EQ(engine.score().AllSummary().Moves, 80000);
     Write({Game(-1, 3, 2, 0), Game(0, 0, 3, 0)});
     const auto lines = GeneralLines(engine.score().AllSummary());
     EXPECT_EQ(lines[7].English(), "Score Per Game : 0") << "cut towards 0, without a sign";
@@ -79,7 +83,8 @@ TEST_F(Reports, FirstFiftyGamesAreChartedAsTheyWere) {
 TEST_F(Reports, PeriodsFollowTheCalendar) {
     Write({Game(16, 1, 1, 1, "1/32/2026 1:00:00 AM"), Game(1),
            Game(2, 1, 1, 0, "1/1/2026 12:00:00 AM"), Game(4, 1, 1, 1, "12/31/2025 11:59:59 PM"),
-           Game(8, 1, 1, 1, "2/28/2025 1:00:00 AM"), Game(32, 1, 1, 1, "2/1/2026 1:00:00 AM")});
+           Game(8, 1, 1, 1, "2/28/2025 1:00:00 AM"), Game(32, 1, 1, 1, "2/1/2026 1:00:00 AM"),
+           Game(64, 1, 1, 1, "1/2/2022 1:00:00 AM")});
     const DateTime now{.month = 3, .day = 31, .hour = 23};
     const auto month = engine.score().PeriodSummary({.month = 1, .day = 31}, Interval::Month);
     EXPECT_EQ(month.Label, "Jan 26");
@@ -99,6 +104,7 @@ TEST_F(Reports, PeriodsFollowTheCalendar) {
                   {"Nov 25", 0}, {"Dec 25", 4}, {"Jan 26", 3}, {"Feb 26", 32}, {"Mar 26", 0}}));
     EXPECT_EQ(scores(5).back(), (Row{"2026", 35}));
     EXPECT_EQ(scores(5)[3], (Row{"2025", 12}));
+    EXPECT_EQ(scores(5).front(), (Row{"2022", 64}));
     EXPECT_EQ(scores(2).size(), 30U);
     EXPECT_EQ(scores(2).front().first, "Mar 02");
     EXPECT_EQ(scores(0).back().first, "Mar 31");

@@ -131,7 +131,18 @@ TEST_F(ScoreFiles, DirectoryInTheFilesPlaceIsReportedAndTheGameEnds) {
     std::filesystem::remove(ScoreFile());
     EXPECT_TRUE(engine.players().EnterPlayer("Player1", "Ann"));
     engine.Leave();
-    EXPECT_EQ(ReadLines(ScorePath(engine.data(), "Ann")).size(), 1U) << "written at the end";
+    const std::filesystem::path ann = ScorePath(engine.data(), "Ann");
+    EXPECT_EQ(ReadLines(ann).size(), 1U) << "written at the end";
+    std::filesystem::remove(ann);
+    std::filesystem::create_directory(ann);
+    Start("Freecell", 8);
+    engine.commands().CloseGame();
+    std::filesystem::remove(ann);
+    engine.data().AddPlayer("Bea");
+    engine.data().CurPlayer("Bea");
+    EXPECT_TRUE(engine.players().DeletePlayer("Ann"));
+    engine.Leave();
+    EXPECT_FALSE(std::filesystem::exists(ann)) << "the results of a player who is gone";
 }
 
 TEST_F(ScoreFiles, OnlyPlainFilesAndLinesOfSomeLengthAreRead) {

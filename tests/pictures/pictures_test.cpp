@@ -176,7 +176,7 @@ private Q_SLOTS:
         for (const auto& [name, choice] : choices) {
             for (const QSize& size : {QSize(600, 260), QSize(260, 600)}) {
                 Compare(QString("ground with %1, %2 wide").arg(name).arg(size.width()),
-                        GroundPicture(size, QRect(60, 40, 160, 130), 0.25, choice));
+                        GroundPicture(size, QRect(60, 40, 160, 130), 0.25, choice), kChartCells);
             }
             LookPreview preview("");
             preview.resize(300, 200);
@@ -288,7 +288,10 @@ private Q_SLOTS:
         const auto compare = [&](const QString& name) {
             QVERIFY2(fixture.ScreenIsTrue(),
                      qPrintable(name + ": the screen shows something else"));
-            Compare(name, OnScreen(fixture.window.table()), {48, 32});
+            const QImage table = OnScreen(fixture.window.table());
+            Compare(name, table, {48, 32});
+            Compare(name + ", a corner",
+                    table.copy(table.width() - 300, table.height() - 300, 300, 300));
         };
         compare("a deal");
         const PicID card = fixture.Top(Cell::Home, 3);
@@ -340,6 +343,12 @@ private Q_SLOTS:
             item->trigger();
             QTRY_VERIFY2(seen > 0, qPrintable(name));
         };
+        const auto compareMenus = [&](const QString& how) {
+            for (auto* menu : fixture.window.menuBar()->findChildren<QMenu*>()) {
+                Compare("menu " + menu->title() + how, menu->grab().toImage(), kWindowCells);
+            }
+        };
+        compareMenus(" at the start");
         for (const StatItem item :
              {StatItem::Game, StatItem::Log, StatItem::Session, StatItem::HighScore}) {
             compare(menu.mStat(item), " without a result");
@@ -389,10 +398,7 @@ private Q_SLOTS:
         Compare("window of a win", won.grab().toImage(), kWindowCells);
         fixture.Beat();
         Compare("menus", fixture.window.menuBar()->grab().toImage(), {80, 3});
-        for (const QAction* item : fixture.window.menuBar()->actions()) {
-            if (!item->menu()) continue;
-            Compare("menu " + item->text(), item->menu()->grab().toImage(), kWindowCells);
-        }
+        compareMenus("");
         Splash splash;
         Compare("splash", splash.grab().toImage(), kWindowCells);
     }

@@ -273,7 +273,8 @@ void Look(QWidget& window, Sight& sight) {
     }
     if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
         const char* const icons[] = {"plain", "information", "warning", "critical", "question"};
-        sight.lines << title + kBar + '(' + icons[box->icon()] + ')';
+        sight.lines << title + kBar + '(' + icons[box->icon()] + ')' +
+                           (box->textFormat() == Qt::PlainText ? "" : " with markup");
     }
     if (const QWidget* focus = window.focusWidget()) {
         sight.lines << title + kBar + "at " + NameOf(*focus);
