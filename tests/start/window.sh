@@ -22,14 +22,13 @@ untitled() { ! titled "$1"; }
 windows() { [ "$(xdotool search --onlyvisible --name '^Varnello$' 2>/dev/null | wc -l)" = "$1" ]; }
 ended() { ! kill -0 "$running" 2>/dev/null; }
 
-# begin CASE [SETTING...]: starts the program in a home of its own.
-begin() {
+# home CASE [SETTING...]: a home of its own for the program.
+home() {
     case=$1 home=$folder/${1// /-} settings=$folder/${1// /-}/Varnello/Varnello.ini
     export HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home
     scores=$home/Varnello/Player1.sre
     mkdir -p "$home/Varnello"
     printf '%s\n' '[Data]' LastGName=Penguin Autoplay=0 SoundStart=0 "${@:2}" >"$settings"
-    run
 }
 run() { "$program" >"$home/out" 2>"$home/errors" & running=$!; }
 play() {
@@ -41,6 +40,8 @@ play() {
     xdotool key Escape
     until_true untitled "$statistics"
 }
+# begin CASE [SETTING...]: starts the program in such a home.
+begin() { home "$@"; run; }
 # ends STATUS ERRORS: a pattern of the shell for what it wrote.
 ends() {
     local status=0
@@ -95,11 +96,9 @@ mkdir "$scores"
 kill "$running"
 ends 0 'The result of this game could not be written to the file'*Player1.sre
 
-begin 'settings that are no file'
+home 'settings that are no file'
 rm "$settings"
 mkfifo "$settings"
-kill "$running"
-wait "$running" || true
 run
 until_true windows 2
 xdotool key Return
