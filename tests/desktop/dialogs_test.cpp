@@ -184,7 +184,7 @@ private Q_SLOTS:
             << "\"11/22/2026 1:00:00 PM\",\"Freecell\",7,120,100,50,1\n"
                "\"10/2/2026 1:00:00 PM\",\"Penguin\",100,1000,8,9,1\n";
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
+        fixture.DragToReserve(0, 0);
         const MainMenu& menu = fixture.window.menu();
         int lists = 0;
         for (QAction* item : {menu.mStat(StatItem::Game), menu.mStat(StatItem::Session),

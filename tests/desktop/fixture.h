@@ -121,6 +121,11 @@ public:
         Move(to, button);
         Release(to, button);
     }
+    /// Drags the top card of a tableau pile onto a reserve pile; both count from 0.
+    void DragToReserve(int pile, int reserve) {
+        const varnello::KesEmpty& slot = engine().table().PicRes[std::size_t(reserve)];
+        Drag(Top(varnello::Cell::Home, pile), At(slot.Left + 532, slot.Top + 720));
+    }
     /// Whether the screen shows what the table would look like if it were painted afresh.
     bool ScreenIsTrue() {
         const auto isTrue = [this] { return IsPainted(window.table()); };

@@ -188,7 +188,7 @@ void WordsTest::EveryTextIsTranslatedAndFits() {
         fixture.StartWithoutAutoplay("Freecell");
         engine.commands().CloseGame();
         fixture.StartWithoutAutoplay("Freecell");
-        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(2980 + 532, 200 + 720));
+        fixture.DragToReserve(0, 0);
         fixture.Beat();
         Faults faults;
         faults.LookAt("main window", fixture.window);

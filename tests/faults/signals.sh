@@ -1,16 +1,13 @@
 #!/usr/bin/env bash
 # signals.sh PROGRAM: a program that a signal ends books its game, once. It needs a display.
 source "$(dirname "$0")/common.sh" "$1"
-titled() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
-selecting() { [ "$(xdotool search --onlyvisible --name '^Varnello$' 2>/dev/null | wc -l)" = 2 ]; }
-ended() { ! kill -0 "$1" 2>/dev/null; }
 for signal in TERM INT HUP; do
     home=$folder/$signal
     mkdir -p "$home/Varnello"
     printf '[Data]\nLastGName=Penguin\nAutoplay=0\nSoundStart=0\n' >"$home/Varnello/Varnello.ini"
     QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home "$program" &
     running=$!
-    until_true selecting
+    until_true windows 2
     xdotool key Return
     until_true titled 'Varnello \[Penguin\]'
     xdotool key F4 # finishes the deal; the game ends under an open window

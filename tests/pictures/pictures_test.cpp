@@ -306,8 +306,7 @@ private Q_SLOTS:
         compare("two cards over nothing");
         QTest::keyClick(&fixture.window, Qt::Key_Escape);
         compare("the deal again");
-        const KesEmpty& reserve = fixture.engine().table().PicRes[0];
-        fixture.Drag(fixture.Top(Cell::Home, 0), fixture.At(reserve.Left, reserve.Top));
+        fixture.DragToReserve(0, 0);
         const QPoint lower = fixture.CentreOf(fixture.Top(Cell::Home, 0));
         fixture.Press(fixture.CentreOf(card));
         fixture.Move(lower);
@@ -361,10 +360,7 @@ private Q_SLOTS:
         fixture.StartWithoutAutoplay("Freecell", 6);
         fixture.engine().life().EndGame(Outcome::NotWon);
         fixture.Start("Freecell", 6);
-        for (int i = 0; i < 3; ++i) {
-            const KesEmpty& slot = fixture.engine().table().PicRes[std::size_t(i)];
-            fixture.Drag(fixture.Top(Cell::Home, i), fixture.At(slot.Left + 532, slot.Top + 720));
-        }
+        for (int i = 0; i < 3; ++i) fixture.DragToReserve(i, i);
         fixture.engine().commands().Undo();
         QAction* const items[] = {
             menu.mFile(FileItem::Number),      menu.mFav(FavItem::Organize),

@@ -1,29 +1,15 @@
 #!/usr/bin/env bash
 # window.sh PROGRAM: how the program starts and ends, by its windows, its files and what it writes
 # to the terminal. It needs a display.
-set -euo pipefail
-program=$1
-folder=$(mktemp -d)
+source "$(dirname "$0")/../faults/common.sh" "$1"
 trap 'kill "${running:-}" 2>/dev/null || true; rm -rf "$folder"' EXIT
 statistics='^Game Statistics$'
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 LANGUAGE=en
 
 die() { echo "$case: $*" >&2; cat "$home/errors" >&2; exit 1; }
-# until_true COMMAND...: waits for it, at most half a minute.
-until_true() {
-    for _ in $(seq 1500); do
-        "$@" && return
-        sleep 0.02
-    done
-    die "waited in vain for: $*"
-}
-titled() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
-untitled() { ! titled "$1"; }
-windows() { [ "$(xdotool search --onlyvisible --name '^Varnello$' 2>/dev/null | wc -l)" = "$1" ]; }
-ended() { ! kill -0 "$running" 2>/dev/null; }
 
-# home CASE [SETTING...]: a home of its own for the program.
-home() {
+# prepare CASE [SETTING...]: a home of its own for the program.
+prepare() {
     case=$1 home=$folder/${1// /-} settings=$folder/${1// /-}/Varnello/Varnello.ini
     export HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home
     scores=$home/Varnello/Player1.sre
@@ -41,11 +27,11 @@ play() {
     until_true untitled "$statistics"
 }
 # begin CASE [SETTING...]: starts the program in such a home.
-begin() { home "$@"; run; }
+begin() { prepare "$@"; run; }
 # ends STATUS ERRORS: a pattern of the shell for what it wrote.
 ends() {
     local status=0
-    until_true ended
+    until_true ended "$running"
     wait "$running" || status=$?
     running=
     [ "$status" = "$1" ] || die "its status is $status"
@@ -53,31 +39,33 @@ ends() {
     [[ $(cat "$home/errors") == $2 ]] || die "it says something else"
     [ ! -s "$home/out" ] || die "it writes to the output"
 }
-booked() { [ "$(cat "$scores" 2>/dev/null | grep -c '"Penguin"')" = "$1" ] || die "not $1 games are booked"; }
+has_booked() {
+    [ "$(cat "$scores" 2>/dev/null | grep -c '"Penguin"')" = "$1" ] || die "not $1 games are booked"
+}
 
 begin 'closed'
 play
 xdotool key alt+F4
 ends 0 ''
-booked 1
+has_booked 1
 
 begin 'left by its menu'
 play
 xdotool key alt+f x
 ends 0 ''
-booked 0
+has_booked 0
 
 begin 'asked to end before there is a window'
 until_true windows 1
 kill "$running"
 ends 0 ''
-booked 0
+has_booked 0
 
 begin 'the display goes away'
 play
 xdotool windowkill "$(xdotool search --onlyvisible --name 'Varnello .Penguin.')"
 ends 1 '*'
-booked 1
+has_booked 1
 
 begin 'closed, and the result cannot be written'
 play
@@ -85,7 +73,7 @@ rm -f "$scores"
 mkdir "$scores"
 xdotool key alt+F4
 until_true windows 1
-ended && die "it doesn't wait for its message to be read"
+ended "$running" && die "it doesn't wait for its message to be read"
 xdotool key Return
 ends 0 ''
 
@@ -96,7 +84,7 @@ mkdir "$scores"
 kill "$running"
 ends 0 'The result of this game could not be written to the file'*Player1.sre
 
-home 'settings that are no file'
+prepare 'settings that are no file'
 rm "$settings"
 mkfifo "$settings"
 run
@@ -120,4 +108,4 @@ begin 'in another language'
 play
 xdotool key alt+F4
 ends 0 ''
-booked 1
+has_booked 1

@@ -161,12 +161,6 @@ bool Follow(QTextBrowser& page, const QString& link) {
     return false;
 }
 
-void Drop(WindowFixture& fixture, int pile, int slot) {
-    const KesEmpty& target = fixture.engine().table().PicRes[static_cast<std::size_t>(slot - 1)];
-    fixture.Drag(fixture.Top(Cell::Home, pile - 1),
-                 fixture.At(target.Left + 532, target.Top + 720));
-}
-
 /// What happens apart from the windows; false for another verb.
 bool Arrange(const QString& verb, const QString& what, const QString& value,
              WindowFixture& fixture) {
@@ -307,7 +301,8 @@ QString Do(const QString& act, WindowFixture& fixture) {
         colours->setCurrentColor(QColor(what));
         colours->accept();
     } else if (verb == "drop") {
-        Drop(fixture, what.section(' ', 0, 0).toInt(), what.section(' ', 1).toInt());
+        fixture.DragToReserve(what.section(' ', 0, 0).toInt() - 1,
+                              what.section(' ', 1).toInt() - 1);
     } else if (auto* list = Find<QAbstractItemView>(front, what)) {
         const bool found = ActOn(*list, verb, value);
         // The library leaves the button of a double click down.

@@ -192,8 +192,8 @@ private:
             << "clipboard: " +
                    QGuiApplication::clipboard()->text().replace('\t', "\\t").replace('\n', "\\n");
         for (QString& line : sight.lines) line.replace(fixture_.folder.path(), "HOME");
-        const QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
-        sight.lines << "tip: " + QString(tip).replace('\n', " / ");
+        QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
+        sight.lines << "tip: " + tip.replace('\n', " / ");
         LookAtCommands(fixture_.window, sight);
         if (fixture_.window.property("listen").toBool()) Listen(fixture_.window.table(), sight);
         LookAtPicture(fixture_.window.table(), "table", sight);
